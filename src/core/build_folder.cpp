@@ -1,0 +1,45 @@
+#include "core/build_folder.h"
+
+#include "core/build_folder_platform.h"
+#include "core/document_path.h"
+#include "core/runtime_error.h"
+
+namespace tavmoor {
+
+namespace {
+
+constexpr std::size_t LongestTemporaryPath = 255;
+
+} // namespace
+
+std::string TemporaryPath() {
+    std::error_code error;
+    const std::filesystem::path native = std::filesystem::temp_directory_path(error);
+    if (error) {
+        throw FileError(error, "");
+    }
+    return DocumentPath(native).substr(0, LongestTemporaryPath);
+}
+
+std::string BuildFolder() {
+    return WithBackslash(TemporaryPath()) + "TAVMOORbuild\\";
+}
+
+void EnsureBuildFolder() {
+    if (const auto folder = FindNativePath(WithBackslash(TemporaryPath()) + "TAVMOORBuild")) {
+        PlatformMakePrivateFolder(*folder);
+    }
+}
+
+void RequireOwnFolder(const std::string& folder) {
+    switch (PlatformFolderOwner(NativePath(folder))) {
+    case FolderOwner::User:
+        return;
+    case FolderOwner::Missing:
+        throw RuntimeError(ErrorNumber::PathNotFound, folder);
+    case FolderOwner::Other:
+        throw RuntimeError(ErrorNumber::PermissionDenied, folder);
+    }
+}
+
+} // namespace tavmoor

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace tavmoor {
+
+enum class FolderOwner : std::uint8_t { User, Other, Missing };
+
+/// Makes a folder that only the user can enter; an error is no news here.
+void PlatformMakePrivateFolder(const std::filesystem::path& folder);
+
+/// Whose the folder is; a link counts as somebody else's, since its owner decides where it leads.
+FolderOwner PlatformFolderOwner(const std::filesystem::path& folder);
+
+} // namespace tavmoor

@@ -1,0 +1,25 @@
+#include "core/build_folder_platform.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tavmoor {
+
+void PlatformMakePrivateFolder(const std::filesystem::path& folder) {
+    mkdir(folder.c_str(), 0700);
+}
+
+FolderOwner PlatformFolderOwner(const std::filesystem::path& folder) {
+    struct stat entry {};
+    std::string path = folder.native();
+    while (path.size() > 1 && path.back() == '/') {
+        path.pop_back(); // with the slash, a link would be followed
+    }
+    if (lstat(path.c_str(), &entry) != 0) {
+        return FolderOwner::Missing;
+    }
+    const bool own = S_ISDIR(entry.st_mode) && entry.st_uid == geteuid();
+    return own ? FolderOwner::User : FolderOwner::Other;
+}
+
+} // namespace tavmoor

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tavmoor {
+
+// A path in the document and in every file that is written has the Windows form, with backslashes,
+// in the system's code page. Off Windows, drive Z: is the root of the file system, so that
+// /home/ana/disc is "Z:\home\ana\disc". Only this module converts paths.
+
+/// The native path of a document path. Off Windows every part is looked up without regard to case,
+/// an exact match first; parts that do not exist keep their spelling.
+/// @throws RuntimeError 76 off Windows for a drive other than Z: or a network path.
+std::filesystem::path NativePath(std::string_view documentPath);
+
+/// As NativePath, but nothing where a path has no counterpart on this system.
+std::optional<std::filesystem::path> FindNativePath(std::string_view documentPath);
+
+/// The document path of a native path; a relative one stays relative.
+/// @throws RuntimeError 52 when a character has no place in the code page, or when a name holds a
+///         backslash, which a document path cannot say.
+std::string DocumentPath(const std::filesystem::path& nativePath);
+
+/// As DocumentPath, but nothing for a path that the document cannot say.
+std::optional<std::string> FindDocumentPath(const std::filesystem::path& nativePath);
+
+/// True for a path that begins with a drive letter and a colon, or with a backslash.
+bool IsAbsoluteDocumentPath(std::string_view path);
+
+/// `folder` with a backslash at its end; a folder that has one stays as it is.
+std::string WithBackslash(std::string_view folder);
+
+/// The part of a path before its last backslash; "" for a path without one.
+std::string_view FolderOf(std::string_view path);
+
+} // namespace tavmoor

@@ -1,0 +1,115 @@
+#include "core/document_path.h"
+
+#include "core/code_page.h"
+#include "core/runtime_error.h"
+
+#include <algorithm>
+#include <clocale>
+#include <cwctype>
+#include <locale.h>
+
+namespace tavmoor {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char RootDrive = 'Z';
+
+std::string FoldCase(std::string_view utf8) {
+    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    std::string folded;
+    for (std::size_t position = 0; position < utf8.size();) {
+        const char32_t character = NextUtf8(utf8, position);
+        const auto lower = unicode == nullptr
+                               ? std::towlower(static_cast<wint_t>(character))
+                               : towlower_l(static_cast<wint_t>(character), unicode);
+        AppendUtf8(folded, static_cast<char32_t>(lower));
+    }
+    return folded;
+}
+
+/// The name in `folder` that equals `name` but for case; of several the first in byte order, so
+/// that the answer does not hang on the order in which the file system lists them.
+std::optional<std::string> NameWithoutCase(const fs::path& folder, const std::string& name) {
+    const std::string wanted = FoldCase(name);
+    std::optional<std::string> best;
+    std::error_code error;
+    fs::directory_iterator entries(folder.empty() ? fs::path(".") : folder, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+        std::string candidate = entries->path().filename().string();
+        if (FoldCase(candidate) == wanted && (!best || candidate < *best)) {
+            best = std::move(candidate);
+        }
+    }
+    return best;
+}
+
+fs::path Resolve(const fs::path& folder, const std::string& name) {
+    fs::path exact = folder / name;
+    std::error_code error;
+    if (fs::exists(fs::symlink_status(exact, error))) {
+        return exact;
+    }
+    if (const auto found = NameWithoutCase(folder, name)) {
+        return folder / *found;
+    }
+    return exact;
+}
+
+bool IsSeparator(char character) {
+    return character == '\\' || character == '/';
+}
+
+/// Takes the drive off the path and gives the native folder that the rest starts from.
+fs::path TakeStart(std::string_view& path) {
+    if (path.size() >= 2 && path[1] == ':') {
+        if (path[0] != RootDrive && path[0] != 'z') {
+            throw RuntimeError(ErrorNumber::PathNotFound, path);
+        }
+        path.remove_prefix(2);
+        return "/";
+    }
+    if (path.size() >= 2 && IsSeparator(path[0]) && IsSeparator(path[1])) {
+        throw RuntimeError(ErrorNumber::PathNotFound, path);
+    }
+    return !path.empty() && IsSeparator(path.front()) ? fs::path("/") : fs::path();
+}
+
+} // namespace
+
+fs::path NativePath(std::string_view documentPath) {
+    std::string_view rest = documentPath;
+    fs::path native = TakeStart(rest);
+    while (!rest.empty()) {
+        const auto end = std::find_if(rest.begin(), rest.end(), IsSeparator);
+        const auto length = static_cast<std::size_t>(end - rest.begin());
+        const std::string_view part = rest.substr(0, length);
+        rest.remove_prefix(std::min(rest.size(), length + 1));
+        if (part.find('\0') != std::string_view::npos) {
+            throw RuntimeError(ErrorNumber::BadFileName, documentPath);
+        }
+        if (part == "..") {
+            native = native / "..";
+        } else if (!part.empty() && part != ".") {
+            native = Resolve(native, SystemCodePage().ToUtf8(part));
+        }
+    }
+    return native;
+}
+
+std::string DocumentPath(const fs::path& nativePath) {
+    const std::string& native = nativePath.native();
+    CodePageText text = SystemCodePage().FromUtf8(native);
+    const bool backslash = native.find('\\') != std::string::npos;
+    if (!text.unplaced.empty() || backslash) {
+        throw RuntimeError(ErrorNumber::BadFileName, text.bytes);
+    }
+    std::replace(text.bytes.begin(), text.bytes.end(), '/', '\\');
+    if (!text.bytes.empty() && text.bytes.front() == '\\') {
+        text.bytes.insert(0, {RootDrive, ':'});
+    }
+    return text.bytes;
+}
+
+} // namespace tavmoor

@@ -1,0 +1,141 @@
+#include "core/file_store.h"
+
+#include "core/document_path.h"
+#include "core/durable_file.h"
+#include "core/runtime_error.h"
+#include "core/text_case.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+
+namespace tavmoor {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The streams tell no reason of their own; the system call behind them left it in errno.
+std::error_code StreamError() {
+    return {errno != 0 ? errno : EIO, std::generic_category()};
+}
+
+bool IsFolder(const fs::path& path) {
+    std::error_code error;
+    return fs::is_directory(path, error);
+}
+
+bool CopyNative(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    return fs::copy_file(from, to, fs::copy_options::overwrite_existing, error) && !error;
+}
+
+} // namespace
+
+std::string ReadWholeFile(std::string_view path) {
+    const fs::path native = NativePath(path);
+    if (IsFolder(native)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess, path);
+    }
+    errno = 0;
+    std::ifstream file(native, std::ios::binary);
+    if (!file) {
+        throw FileError(StreamError(), path);
+    }
+    std::string bytes;
+    std::error_code error;
+    const auto length = fs::file_size(native, error);
+    if (!error) {
+        bytes.reserve(static_cast<std::size_t>(length));
+    }
+    constexpr std::size_t block = 1U << 16U;
+    while (file) {
+        const std::size_t old = bytes.size();
+        bytes.resize(old + block);
+        file.read(bytes.data() + old, block);
+        bytes.resize(old + static_cast<std::size_t>(file.gcount()));
+    }
+    if (file.bad()) {
+        throw FileError(StreamError(), path);
+    }
+    return bytes;
+}
+
+void WriteWholeFile(std::string_view path, std::string_view bytes) {
+    if (const std::error_code error = ReplaceFileDurably(NativePath(path), bytes)) {
+        throw FileError(error, path);
+    }
+}
+
+std::uint64_t FileLength(std::string_view path) {
+    const fs::path native = NativePath(path);
+    if (IsFolder(native)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess, path);
+    }
+    std::error_code error;
+    const auto length = fs::file_size(native, error);
+    if (error) {
+        throw FileError(error, path);
+    }
+    return length;
+}
+
+bool FileExists(std::string_view path) {
+    const auto native = FindNativePath(path);
+    std::error_code error;
+    return native && fs::is_regular_file(*native, error);
+}
+
+bool FolderExists(std::string_view path) {
+    const auto native = path.empty() ? std::nullopt : FindNativePath(path);
+    return native && IsFolder(*native);
+}
+
+void DeleteFileIgnoringErrors(std::string_view path) {
+    const auto native = FindNativePath(path);
+    std::error_code error;
+    if (native && !IsFolder(*native)) {
+        fs::remove(*native, error);
+    }
+}
+
+bool CopyFileIgnoringErrors(std::string_view from, std::string_view to) {
+    const auto source = FindNativePath(from);
+    const auto target = FindNativePath(to);
+    return source && target && CopyNative(*source, *target);
+}
+
+bool MoveFileIgnoringErrors(std::string_view from, std::string_view to) {
+    const auto source = FindNativePath(from);
+    const auto target = FindNativePath(to);
+    std::error_code error;
+    if (!source || !target || fs::exists(*target, error)) {
+        return false;
+    }
+    fs::rename(*source, *target, error);
+    return !error || CopyNative(*source, *target);
+}
+
+std::vector<std::string> FileNamesIn(std::string_view folder, std::string_view extension) {
+    std::vector<std::string> names;
+    const auto native = FindNativePath(folder);
+    std::error_code error;
+    if (!native) {
+        return names;
+    }
+    fs::directory_iterator entries(*native, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+        std::error_code unreadable;
+        if (!entries->is_regular_file(unreadable)) {
+            continue;
+        }
+        const auto name = FindDocumentPath(entries->path().filename());
+        if (name && EndsWithoutCase(*name, extension)) {
+            names.push_back(*name);
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+} // namespace tavmoor

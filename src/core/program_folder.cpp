@@ -1,0 +1,29 @@
+#include "core/program_folder.h"
+
+#include "core/document_path.h"
+
+namespace tavmoor {
+
+namespace {
+
+constexpr const char* OwnFolder = "tavmoor";
+
+} // namespace
+
+std::string ProgramFolder() {
+    return DocumentPath(PlatformProgramFile().parent_path());
+}
+
+std::string ProgramSettingsPath(const std::string& programFolder) {
+    const auto native = FindNativePath(programFolder);
+    const std::string folder = native && PlatformCanWriteFolder(*native)
+                                   ? programFolder
+                                   : DocumentPath(PlatformConfigurationFolder() / OwnFolder);
+    return WithBackslash(folder) + "tavmoor.ini";
+}
+
+std::string UserDataFolder() {
+    return DocumentPath(PlatformDataFolder() / OwnFolder);
+}
+
+} // namespace tavmoor

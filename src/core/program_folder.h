@@ -1,0 +1,26 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tavmoor {
+
+/// The folder of the running executable in document form, without a backslash at its end.
+/// @throws RuntimeError when the system does not tell it, or the document cannot say it
+std::string ProgramFolder();
+
+/// The path of `tavmoor.ini`: in the program's folder, or, where that cannot be written, in the
+/// user's configuration folder.
+std::string ProgramSettingsPath(const std::string& programFolder);
+
+/// The user's folder for this program's data (recovered projects), in document form.
+std::string UserDataFolder();
+
+// One file per platform answers these, in native form.
+
+std::filesystem::path PlatformProgramFile();
+bool PlatformCanWriteFolder(const std::filesystem::path& folder);
+std::filesystem::path PlatformConfigurationFolder();
+std::filesystem::path PlatformDataFolder();
+
+} // namespace tavmoor
