@@ -79,6 +79,15 @@ struct FieldSpec {
     std::string_view lineWhenEmpty; ///< the whole line that stands for "" or a flag that is off
     std::optional<FieldGuard> guard;
 
+private:
+    // Stands before its callers: a constant expression can only call a template that is complete.
+    template <typename Change> [[nodiscard]] constexpr FieldSpec With(Change change) const {
+        FieldSpec changed = *this;
+        change(changed);
+        return changed;
+    }
+
+public:
     // The words in which the tables are written; each gives a changed copy.
 
     [[nodiscard]] constexpr FieldSpec New(std::string_view value) const {
@@ -152,13 +161,6 @@ struct FieldSpec {
     [[nodiscard]] constexpr bool StandsIn(FieldFile file) const {
         return file == FieldFile::Project ? place != Place::ConfigurationOnly
                                           : place != Place::ProjectOnly;
-    }
-
-private:
-    template <typename Change> [[nodiscard]] constexpr FieldSpec With(Change change) const {
-        FieldSpec changed = *this;
-        change(changed);
-        return changed;
     }
 };
 

@@ -67,6 +67,17 @@ void WriteWholeFile(std::string_view path, std::string_view bytes) {
     }
 }
 
+void WriteFreshFile(std::string_view path, std::string_view bytes) {
+    DeleteFileIgnoringErrors(path);
+    errno = 0;
+    std::ofstream file(NativePath(path), std::ios::binary | std::ios::app);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) {
+        throw FileError(StreamError(), path);
+    }
+}
+
 std::uint64_t FileLength(std::string_view path) {
     const fs::path native = NativePath(path);
     if (IsFolder(native)) {
@@ -78,6 +89,14 @@ std::uint64_t FileLength(std::string_view path) {
         throw FileError(error, path);
     }
     return length;
+}
+
+std::uint64_t FileLengthOrZero(std::string_view path) {
+    try {
+        return FileLength(path);
+    } catch (const RuntimeError&) {
+        return 0;
+    }
 }
 
 bool FileExists(std::string_view path) {
@@ -109,11 +128,16 @@ bool MoveFileIgnoringErrors(std::string_view from, std::string_view to) {
     const auto source = FindNativePath(from);
     const auto target = FindNativePath(to);
     std::error_code error;
-    if (!source || !target || fs::exists(*target, error)) {
+    if (!source || !target) {
         return false;
     }
-    fs::rename(*source, *target, error);
-    return !error || CopyNative(*source, *target);
+    if (!fs::exists(fs::symlink_status(*target, error))) {
+        fs::rename(*source, *target, error);
+        if (!error) {
+            return true;
+        }
+    }
+    return CopyNative(*source, *target);
 }
 
 std::vector<std::string> FileNamesIn(std::string_view folder, std::string_view extension) {

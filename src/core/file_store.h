@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,8 +17,14 @@ std::string ReadWholeFile(std::string_view path);
 /// renamed over it. When that fails the old file stays as it was.
 void WriteWholeFile(std::string_view path, std::string_view bytes);
 
+/// Deletes what lies at `path` and writes a fresh file: for what a build can make again at any time.
+void WriteFreshFile(std::string_view path, std::string_view bytes);
+
 /// The length of a file in bytes; RuntimeError 53 when there is none, 75 for a folder.
 std::uint64_t FileLength(std::string_view path);
+
+/// The length of a file, 0 when there is none or it cannot be asked.
+std::uint64_t FileLengthOrZero(std::string_view path);
 
 /// True when a file (not a folder) lies at the path and its length can be asked.
 bool FileExists(std::string_view path);
@@ -34,9 +39,9 @@ void DeleteFileIgnoringErrors(std::string_view path);
 /// @return true when the copy was made whole
 bool CopyFileIgnoringErrors(std::string_view from, std::string_view to);
 
-/// Moves a file to a place where none lies; across file systems it is copied and the source stays.
-/// Swallows every failure.
-/// @return true when the file now lies at `to`
+/// Moves a file. Where that cannot be (another file system, or a file at `to` that could not be
+/// deleted) it is copied over and the source stays. Swallows every failure.
+/// @return true when the file lies whole at `to`
 bool MoveFileIgnoringErrors(std::string_view from, std::string_view to);
 
 /// The names of the files in a folder that end in `extension` (with its dot, compared without

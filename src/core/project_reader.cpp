@@ -3,7 +3,6 @@
 #include "core/document_path.h"
 #include "core/field_text.h"
 #include "core/file_store.h"
-#include "core/runtime_error.h"
 #include "core/value_encoding.h"
 
 #include <algorithm>
@@ -11,14 +10,6 @@
 namespace tavmoor {
 
 namespace {
-
-std::uint64_t LengthOrZero(std::string_view path) {
-    try {
-        return FileLength(path);
-    } catch (const RuntimeError&) {
-        return 0;
-    }
-}
 
 /// Walks the field table and asks the file for each key in turn.
 class Reader {
@@ -112,7 +103,7 @@ private:
     }
 
     void CheckButtonPicture(std::string& path) {
-        if (path.empty() || LengthOrZero(path) > 0) {
+        if (path.empty() || FileLengthOrZero(path) > 0) {
             return;
         }
         listener_.ShowMessage("The file " + path + " used in this project could not be found!",

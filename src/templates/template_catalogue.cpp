@@ -3,7 +3,6 @@
 #include "core/document_path.h"
 #include "core/file_store.h"
 #include "core/project_reader.h"
-#include "core/runtime_error.h"
 #include "core/text_case.h"
 #include "templates/template_descriptor.h"
 
@@ -69,14 +68,6 @@ void Bind(ProjectDocument& document, std::string descriptorPath, std::string nam
     }
 }
 
-std::uint64_t LengthOrZero(const std::string& path) {
-    try {
-        return FileLength(path);
-    } catch (const RuntimeError&) {
-        return 0;
-    }
-}
-
 } // namespace
 
 std::string TemplatesFolder(std::string_view programFolder) {
@@ -135,7 +126,7 @@ void SelectEditorTemplate(ProjectDocument& document, std::string_view programFol
 TemplatePreview ShowTemplatePreview(std::string_view descriptorPath) {
     const std::string folder = WithBackslash(FolderOf(descriptorPath));
     TemplatePreview preview{folder + "opis.rtf", folder + "template.jpg"};
-    if (LengthOrZero(preview.picturePath) == 0) {
+    if (FileLengthOrZero(preview.picturePath) == 0) {
         preview.picturePath = folder + "template.gif";
     }
     return preview;

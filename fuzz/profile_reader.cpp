@@ -1,0 +1,74 @@
+// Any bytes as an INI-like text: every entry is found again, the first of duplicates wins, and
+// values are cut.
+
+#include "check.h"
+#include "core/profile_file.h"
+#include "core/text_case.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <utility>
+
+namespace {
+
+std::string Lower(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(), tavmoor::LowerCase);
+    return lower;
+}
+
+std::string Upper(std::string_view text) {
+    std::string upper(text);
+    for (char& character : upper) {
+        if (character >= 'a' && character <= 'z') {
+            character = static_cast<char>(character - 'a' + 'A');
+        }
+    }
+    return upper;
+}
+
+using Model = std::map<std::pair<std::string, std::string>, std::string>;
+
+/// The same rules, read plainly and slowly.
+Model ReadPlainly(const std::string& text, std::size_t& entries) {
+    Model model;
+    std::string section;
+    entries = 0;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find('\n', start), text.size());
+        std::string line = text.substr(start, end - start);
+        start = end + 1;
+        if (line.ends_with('\r')) {
+            line.pop_back();
+        }
+        if (line.starts_with('[')) {
+            const std::size_t close = line.find(']');
+            section = close == std::string::npos ? section : Lower(line.substr(1, close - 1));
+        } else if (const std::size_t equals = line.find('='); equals != std::string::npos) {
+            ++entries;
+            model.try_emplace({section, Lower(line.substr(0, equals))}, line.substr(equals + 1));
+        }
+    }
+    return model;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    const tavmoor::ProfileFile file(text);
+    std::size_t entries = 0;
+    const Model model = ReadPlainly(text, entries);
+    Check(file.Entries().size() == entries, "each key=value line is an entry");
+    for (const auto& [section, key, value] : file.Entries()) {
+        const auto first = model.find({Lower(section), Lower(key)});
+        Check(first != model.end(), "an entry stands in the text");
+        Check(file.WholeValue(section, key) == first->second, "the first of duplicates wins");
+        Check(file.WholeValue(Upper(section), Upper(key)) == first->second, "case does not count");
+        Check(file.Value(section, key) == first->second.substr(0, 1023), "values are cut to 1023");
+        const std::string other = std::string(key) + "\n";
+        Check(file.WholeValue(section, other).empty(), "a key that no line can have is missing");
+    }
+    return 0;
+}

@@ -1,0 +1,139 @@
+// Writes the first inputs and the dictionaries of the fuzz targets:
+//   fuzz_seeds FOLDER   makes FOLDER/<target>/ and FOLDER/<target>.dict
+
+#include "build/name_scrambling.h"
+#include "build/package_format.h"
+#include "core/field_text.h"
+#include "core/field_writer.h"
+#include "core/project_fields.h"
+#include "core/project_reset.h"
+#include "support/pe_image.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <set>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace tavmoor;
+
+void Write(const fs::path& file, const std::string& bytes) {
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+/// A project in which every field of the first rows holds something.
+std::string FullProject() {
+    constexpr std::size_t rows = 3;
+    ProjectDocument document = NewProjectDocument();
+    for (const FieldBlock& block : ProjectBlocks()) {
+        for (std::size_t row = block.first; row < std::min(block.first + rows, block.last + 1);
+             ++row) {
+            for (const FieldSpec& field : block.fields) {
+                const bool isText =
+                    std::holds_alternative<std::string*>(field.access.edit(document, row));
+                const bool isFlag = std::holds_alternative<bool*>(field.access.edit(document, row));
+                AssignFieldText(document, {&block, &field, row},
+                                isText   ? "%a & b"
+                                : isFlag ? "True"
+                                         : "1",
+                                FieldFile::Project);
+            }
+        }
+    }
+    for (std::size_t row = 0; row < rows; ++row) {
+        document.NapredniSabloni.Dugme[row].DugmeExists = true;
+    }
+    return FieldFileText(document, FieldFile::Project);
+}
+
+std::string ProjectDictionary() {
+    std::set<std::string> lines;
+    for (const FieldBlock& block : ProjectBlocks()) {
+        lines.insert("\"[" + std::string(block.section) + "]\\x0d\\x0a\"");
+        for (const FieldSpec& field : block.fields) {
+            std::string key;
+            AppendKey(key, field.key, block.keyForm, block.first);
+            lines.insert("\"" + key + "=\"");
+        }
+    }
+    std::string text = "\"Chr$(10)\"\n\"Chr$(13)\"\n\"Chr$(38)\"\n\"#Empty#\"\n\"\\x0d\\x0a\"\n"
+                       "\"True\"\n\"False\"\n\"Da\"\n\"Ne\"\n\"&H\"\n\"e308\"\n\"-32768\"\n";
+    for (const std::string& line : lines) {
+        text += line + "\n";
+    }
+    return text;
+}
+
+struct PackedFile {
+    std::string name;
+    std::string bytes;
+};
+
+std::string Package(const std::vector<PackedFile>& files) {
+    namespace format = package_format;
+    std::string head;
+    std::string data;
+    const auto add = [&head](std::string_view line) { head.append(line).append(format::LineEnd); };
+    add(format::Title);
+    add(format::HeadStart);
+    for (const auto& [name, bytes] : files) {
+        add(ScrambleText(name));
+        add(ScrambleText(std::to_string(bytes.size())));
+        data += bytes;
+    }
+    head.append(format::HeadEnd).append(format::HeadEndLineEnd);
+    const std::size_t kept = std::min(data.size(), format::ReplacedLineEnd.size());
+    return head + data + std::string(format::ReplacedLineEnd.substr(kept));
+}
+
+void WriteProfileSeeds(const fs::path& folder) {
+    Write(folder / "two_sections", "[A]\r\nb=c\r\nB=d\r\n[a]\r\nb=e\r\n[C]\r\n=x\r\n");
+    Write(folder / "no_section", "k=v\n[open\n[]\nk=w=z\n");
+    Write(folder / "long_value", "[s]\nk=" + std::string(1100, 'x') + "\n");
+}
+
+void WriteProjectSeeds(const fs::path& folder) {
+    Write(folder / "full", FullProject());
+    Write(folder / "new", FieldFileText(NewProjectDocument(), FieldFile::Project));
+    Write(folder / "template", "[Osnovna podesavanja]\r\nSablon=%Templates\\a\\a.tavt\r\n");
+}
+
+void WritePackageSeeds(const fs::path& folder) {
+    Write(folder / "two_files", Package({{"tavmoor.cfg", "[Zvuk]\r\n"}, {"a.wav", "RIFF"}}));
+    Write(folder / "empty_file", Package({{"a", ""}}));
+    Write(folder / "one_byte", Package({{"a", ""}, {"b", "x"}}));
+    Write(folder / "no_file", Package({}));
+    Write(folder / "unsafe", Package({{"../a", "x"}, {"nul", "y"}, {"A", "1"}, {"a", "2"}}));
+}
+
+void WriteVersionSeeds(const fs::path& folder) {
+    using namespace tavmoor::test;
+    const std::string usual = VersionResourceOf(u"Orlenta");
+    Write(folder / "pe32", MakePeImage(usual).bytes);
+    Write(folder / "pe32plus", MakePeImage(usual, PeKind::Pe32Plus).bytes);
+    Write(folder / "surrogates",
+          MakePeImage(VersionResourceOf(u"\xD83D\xDCBF\xD83D \xDCBF")).bytes);
+    Write(folder / "no_version", MakePeImage("").bytes);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: fuzz_seeds FOLDER\n";
+        return 2;
+    }
+    const fs::path folder = argv[1];
+    WriteProfileSeeds(folder / "profile_reader");
+    WriteProjectSeeds(folder / "project_reader");
+    WritePackageSeeds(folder / "package_reader");
+    WriteVersionSeeds(folder / "version_block");
+    Write(folder / "project_reader.dict", ProjectDictionary());
+    Write(folder / "package_reader.dict", "\"TAVMOOR PACKAGE\"\n\"[Pocetak]\"\n\"[Kraj]\"\n"
+                                          "\"\\x0d\\x0a\\x0d\\x0a\\x0d\\x0a\"\n"
+                                          "\"\\x0d\\x0a\\x0d\\x0a\"\n");
+    Write(folder / "version_block.dict", "\"MZ\"\n\"PE\\x00\\x00\"\n");
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "menu/menu_layout.h"
+
+namespace tavmoor {
+
+/// How the buttons of a list flow.
+struct FlowRules {
+    std::size_t first = 0; ///< commands from here on,
+    std::size_t count = 0; ///< so many
+    int columns = 1;
+    bool downFirst = false; ///< fill the columns one after the other, not the rows
+};
+
+/// Buttons laid out from 0, 0.
+struct ButtonFlow {
+    std::vector<Box> buttons;
+    std::vector<GroupTitle> groups;
+    int height = 0;
+};
+
+/// Lays buttons out in columns of equal width. A caption that is too long for one line makes its
+/// row high enough for two.
+ButtonFlow FlowButtons(const LayoutRequest& request, const FlowRules& rules, int width);
+
+} // namespace tavmoor

@@ -1,0 +1,17 @@
+#include "build/runtime_configuration.h"
+
+#include "build/package_format.h"
+#include "core/document_path.h"
+#include "core/field_writer.h"
+#include "core/file_store.h"
+
+namespace tavmoor {
+
+std::string WriteRuntimeConfiguration(const ProjectDocument& document,
+                                      const std::string& buildFolder) {
+    std::string path = WithBackslash(buildFolder) + std::string(package_format::ConfigurationName);
+    WriteFreshFile(path, FieldFileText(document, FieldFile::Configuration));
+    return path;
+}
+
+} // namespace tavmoor

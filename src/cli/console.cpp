@@ -1,0 +1,85 @@
+#include "console.h"
+
+#include "core/code_page.h"
+#include "core/document_path.h"
+#include "core/runtime_error.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+
+namespace tavmoor::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool IsDocumentForm(const std::string& utf8) {
+    const bool drive = utf8.size() >= 2 && utf8[1] == ':' &&
+                       std::isalpha(static_cast<unsigned char>(utf8[0])) != 0;
+    return drive || (!utf8.empty() && utf8.front() == '\\');
+}
+
+fs::path FromUtf8(const std::string& utf8) {
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
+void Print(std::FILE* stream, std::string_view utf8) {
+    std::fwrite(utf8.data(), 1, utf8.size(), stream);
+    std::fputc('\n', stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+std::string Utf8(std::string_view codePageText) {
+    return SystemCodePage().ToUtf8(codePageText);
+}
+
+std::string OneLine(std::string_view codePageText) {
+    std::string line;
+    for (const char character : codePageText) {
+        if (character == '\n') {
+            line += ' ';
+        } else if (character != '\r') {
+            line += character;
+        }
+    }
+    return Utf8(line);
+}
+
+void PrintLine(std::string_view utf8) {
+    Print(stdout, utf8);
+}
+
+void PrintError(std::string_view utf8) {
+    Print(stderr, "tavmoor-cli: " + std::string(utf8));
+}
+
+std::string TextArgument(const std::string& utf8) {
+    CodePageText text = SystemCodePage().FromUtf8(utf8);
+    if (!text.unplaced.empty()) {
+        throw CommandFailure("\"" + utf8 + "\" has a character that code page " +
+                             std::to_string(SystemCodePage().Number()) + " does not know");
+    }
+    return text.bytes;
+}
+
+std::string PathArgument(const std::string& utf8) {
+    if (IsDocumentForm(utf8)) {
+        return TextArgument(utf8);
+    }
+    try {
+        return DocumentPath(fs::absolute(FromUtf8(utf8)).lexically_normal());
+    } catch (const RuntimeError&) {
+        throw CommandFailure("the path \"" + utf8 + "\" cannot stand in a project: code page " +
+                             std::to_string(SystemCodePage().Number()) +
+                             " does not know all of its characters, or it holds a backslash");
+    }
+}
+
+fs::path NativeArgument(const std::string& utf8) {
+    return IsDocumentForm(utf8) ? NativePath(TextArgument(utf8)) : FromUtf8(utf8);
+}
+
+} // namespace tavmoor::cli

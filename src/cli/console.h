@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavmoor::cli {
+
+// Everything that comes from or goes to the terminal is UTF-8; texts of the core are bytes in the
+// system's code page.
+
+/// A command that could not do all that was asked; the text is one line of UTF-8.
+class CommandFailure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A core text as UTF-8.
+std::string Utf8(std::string_view codePageText);
+
+/// The same on one line, for messages that have several.
+std::string OneLine(std::string_view codePageText);
+
+/// A line on standard output, and an error line on standard error.
+void PrintLine(std::string_view utf8);
+void PrintError(std::string_view utf8);
+
+/// A typed text as core text.
+/// @throws CommandFailure when the code page has no place for a character
+std::string TextArgument(const std::string& utf8);
+
+/// A typed path, native or in document form, as an absolute document path.
+/// @throws CommandFailure when the document cannot say the path
+std::string PathArgument(const std::string& utf8);
+
+/// A typed path, native or in document form, as a native path.
+std::filesystem::path NativeArgument(const std::string& utf8);
+
+// One file per platform answers these.
+
+/// The arguments of the program in UTF-8, without the program itself.
+std::vector<std::string> CommandLineArguments(int count, char** values);
+/// Makes the terminal show UTF-8.
+void PrepareConsole();
+/// True when standard output is a terminal that a line can be rewritten on.
+bool OutputIsTerminal();
+/// Starts a finished autorun and does not wait for it.
+/// @throws CommandFailure when it cannot be started
+void StartAutorunProgram(const std::filesystem::path& program);
+/// Makes a fresh folder for working files that only the user can enter.
+std::filesystem::path MakePrivateTemporaryFolder();
+
+} // namespace tavmoor::cli

@@ -1,0 +1,58 @@
+#include "console.h"
+
+#include "core/build_folder.h"
+#include "core/document_path.h"
+
+#include <io.h>
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace tavmoor::cli {
+
+std::vector<std::string> CommandLineArguments(int /*count*/, char** /*values*/) {
+    int count = 0;
+    wchar_t** values = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; values != nullptr && i < count; ++i) {
+        const std::u8string utf8 = std::filesystem::path(values[i]).u8string();
+        arguments.emplace_back(utf8.begin(), utf8.end());
+    }
+    LocalFree(values);
+    return arguments;
+}
+
+void PrepareConsole() {
+    SetConsoleOutputCP(CP_UTF8);
+}
+
+bool OutputIsTerminal() {
+    return _isatty(_fileno(stdout)) != 0;
+}
+
+void StartAutorunProgram(const std::filesystem::path& program) {
+    std::wstring command = L"\"" + program.wstring() + L"\"";
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    if (CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                       program.parent_path().c_str(), &start, &process) == 0) {
+        throw CommandFailure("the autorun was built but not started: error " +
+                             std::to_string(GetLastError()));
+    }
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+}
+
+std::filesystem::path MakePrivateTemporaryFolder() {
+    const std::filesystem::path folder =
+        NativePath(TemporaryPath()) / ("TAVMOORbuild-" + std::to_string(GetCurrentProcessId()) +
+                                       "-" + std::to_string(GetTickCount64()));
+    std::error_code error;
+    if (!std::filesystem::create_directory(folder, error)) {
+        throw CommandFailure("no folder for working files can be made: " + error.message());
+    }
+    return folder;
+}
+
+} // namespace tavmoor::cli

@@ -1,0 +1,122 @@
+#include "commands.h"
+
+#include "build/project_check.h"
+#include "console.h"
+#include "core/field_text.h"
+#include "core/field_writer.h"
+#include "core/file_store.h"
+#include "core/project_reset.h"
+#include "core/project_writer.h"
+#include "open_project.h"
+
+#include <nlohmann/json.hpp>
+
+namespace tavmoor::cli {
+
+namespace {
+
+std::unique_ptr<OpenProject> Load(const std::string& project, const std::string& programFolder,
+                                  ButtonRowsAre rows) {
+    auto opened = LoadProject(PathArgument(project), ChosenProgramFolder(programFolder), rows);
+    for (const std::string& warning : opened->warnings) {
+        PrintError("warning: " + OneLine(warning));
+    }
+    return opened;
+}
+
+/// Calls `take` with each stored field whose value is not that of a new project.
+template <typename Take> void ForEachChange(const ProjectDocument& document, Take take) {
+    const auto fresh = std::make_unique<ProjectDocument>(NewProjectDocument());
+    for (const FieldBlock& block : ProjectBlocks()) {
+        for (std::size_t row = block.first; row <= block.last; ++row) {
+            for (const FieldSpec& field : block.fields) {
+                const FieldPlace place{&block, &field, row};
+                if (!field.writeOnly && field.StandsIn(FieldFile::Project) &&
+                    FieldText(document, place) != FieldText(*fresh, place)) {
+                    take(place);
+                }
+            }
+        }
+    }
+}
+
+std::string KeyOf(const FieldPlace& place) {
+    std::string key;
+    AppendKey(key, place.field->key, place.block->keyForm, place.row);
+    return key;
+}
+
+nlohmann::ordered_json JsonOf(ConstValueRef value) {
+    if (const auto* const* text = std::get_if<const std::string*>(&value)) {
+        return Utf8(**text);
+    }
+    return std::visit(
+        [](const auto* held) -> nlohmann::ordered_json {
+            if constexpr (std::is_same_v<decltype(held), const std::string*>) {
+                return nullptr;
+            } else {
+                return *held;
+            }
+        },
+        value);
+}
+
+void PrintJson(const ProjectDocument& document) {
+    nlohmann::ordered_json json = nlohmann::ordered_json::object();
+    ForEachChange(document, [&](const FieldPlace& place) {
+        json[std::string(place.block->section)][KeyOf(place)] = JsonOf(place.Read(document));
+    });
+    PrintLine(json.dump(2));
+}
+
+void PrintText(const ProjectDocument& document) {
+    std::string_view section;
+    ForEachChange(document, [&](const FieldPlace& place) {
+        if (place.block->section != section) {
+            section = place.block->section;
+            PrintLine("[" + std::string(section) + "]");
+        }
+        PrintLine(KeyOf(place) + "=" + OneLine(FieldText(document, place)));
+    });
+}
+
+} // namespace
+
+int ResaveCommand(const ResaveArguments& arguments) {
+    const auto project = Load(arguments.input, arguments.programFolder,
+                              arguments.asRead ? ButtonRowsAre::AsRead : ButtonRowsAre::Live);
+    WriteProject(project->document, PathArgument(arguments.output));
+    return 0;
+}
+
+int ConfigurationCommand(const ProjectArguments& arguments) {
+    const auto project =
+        Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
+    WriteWholeFile(PathArgument(arguments.output),
+                   FieldFileText(project->document, FieldFile::Configuration));
+    return 0;
+}
+
+int ShowCommand(const ProjectArguments& arguments) {
+    const auto project =
+        Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
+    if (arguments.json) {
+        PrintJson(project->document);
+    } else {
+        PrintText(project->document);
+    }
+    return 0;
+}
+
+int CheckCommand(const ProjectArguments& arguments) {
+    const std::string programFolder = ChosenProgramFolder(arguments.programFolder);
+    const auto project =
+        LoadProject(PathArgument(arguments.project), programFolder, ButtonRowsAre::Live);
+    const auto findings = CheckProject(project->document, project->file, programFolder);
+    for (const Finding& finding : findings) {
+        PrintLine(OneLine(finding.text));
+    }
+    return findings.empty() ? 0 : 1;
+}
+
+} // namespace tavmoor::cli

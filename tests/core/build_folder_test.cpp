@@ -1,0 +1,95 @@
+#include "core/build_folder.h"
+
+#include "core/runtime_error.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace tavmoor {
+
+namespace {
+
+int ErrorOfUse(const std::string& folder) {
+    try {
+        RequireOwnFolder(folder);
+    } catch (const RuntimeError& error) {
+        return static_cast<int>(error.Number());
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(BuildFolder, LiesInTheTemporaryFolder) {
+    const std::string temporary = WithBackslash(TemporaryPath());
+    EXPECT_EQ(BuildFolder(), temporary + "TAVMOORbuild\\");
+    const test::TemporaryFolder folder;
+    EXPECT_EQ(ErrorOfUse(folder.Document() + "\\"), 0);
+    EXPECT_EQ(ErrorOfUse(folder.Document("gone") + "\\"), 76);
+}
+
+#ifndef _WIN32
+
+namespace {
+
+class BuildFolderTest : public testing::Test {
+protected:
+    void SetUp() override {
+        const char* old = std::getenv("TMPDIR");
+        old_ = old != nullptr ? std::optional<std::string>(old) : std::nullopt;
+        setenv("TMPDIR", folder_.Native().c_str(), 1);
+    }
+    void TearDown() override {
+        old_ ? setenv("TMPDIR", old_->c_str(), 1) : unsetenv("TMPDIR");
+    }
+
+    test::TemporaryFolder folder_;
+
+private:
+    std::optional<std::string> old_;
+};
+
+} // namespace
+
+TEST_F(BuildFolderTest, IsMadeForTheUserAlone) {
+    EXPECT_EQ(ErrorOfUse(BuildFolder()), 76);
+    EnsureBuildFolder();
+    EnsureBuildFolder();
+    EXPECT_EQ(folder_.Names(), std::set<std::string>{"TAVMOORBuild"});
+    struct stat entry {};
+    stat(folder_.Native("TAVMOORBuild").c_str(), &entry);
+    EXPECT_EQ(entry.st_mode & 07777U, 0700U);
+    EXPECT_EQ(ErrorOfUse(BuildFolder()), 0);
+}
+
+TEST_F(BuildFolderTest, OfSomebodyElseIsRefused) {
+    std::filesystem::create_directory(folder_.Native("elsewhere"));
+    std::filesystem::create_directory_symlink("elsewhere", folder_.Native("TAVMOORbuild"));
+    EnsureBuildFolder();
+    EXPECT_EQ(ErrorOfUse(BuildFolder()), 70);
+    std::filesystem::remove(folder_.Native("TAVMOORbuild"));
+    folder_.Write("TAVMOORbuild", "a file");
+    EXPECT_EQ(ErrorOfUse(BuildFolder()), 70);
+    std::string foreign = "Z:\\";
+    if (geteuid() == 0) {
+        foreign = folder_.Document("elsewhere");
+        ASSERT_EQ(chown(folder_.Native("elsewhere").c_str(), 12345, 12345), 0);
+    }
+    EXPECT_EQ(ErrorOfUse(foreign), 70);
+}
+
+TEST_F(BuildFolderTest, TroubleWithTheTemporaryFolderShowsAtTheBuildAlone) {
+    setenv("TMPDIR", folder_.Native("gone").c_str(), 1);
+    EXPECT_NO_THROW(EnsureBuildFolder());
+    EXPECT_NO_THROW(EXPECT_EQ(ErrorOfUse(BuildFolder()), 76));
+}
+
+#endif
+
+} // namespace tavmoor
