@@ -1,12 +1,11 @@
 // Writes the first inputs and the dictionaries of the fuzz targets:
 //   fuzz_seeds FOLDER   makes FOLDER/<target>/ and FOLDER/<target>.dict
 
-#include "build/name_scrambling.h"
-#include "build/package_format.h"
 #include "core/field_text.h"
 #include "core/field_writer.h"
 #include "core/project_fields.h"
 #include "core/project_reset.h"
+#include "support/package_bytes.h"
 #include "support/pe_image.h"
 
 #include <filesystem>
@@ -54,9 +53,7 @@ std::string ProjectDictionary() {
     for (const FieldBlock& block : ProjectBlocks()) {
         lines.insert("\"[" + std::string(block.section) + "]\\x0d\\x0a\"");
         for (const FieldSpec& field : block.fields) {
-            std::string key;
-            AppendKey(key, field.key, block.keyForm, block.first);
-            lines.insert("\"" + key + "=\"");
+            lines.insert("\"" + KeyOf({&block, &field, block.first}) + "=\"");
         }
     }
     std::string text = "\"Chr$(10)\"\n\"Chr$(13)\"\n\"Chr$(38)\"\n\"#Empty#\"\n\"\\x0d\\x0a\"\n"
@@ -65,28 +62,6 @@ std::string ProjectDictionary() {
         text += line + "\n";
     }
     return text;
-}
-
-struct PackedFile {
-    std::string name;
-    std::string bytes;
-};
-
-std::string Package(const std::vector<PackedFile>& files) {
-    namespace format = package_format;
-    std::string head;
-    std::string data;
-    const auto add = [&head](std::string_view line) { head.append(line).append(format::LineEnd); };
-    add(format::Title);
-    add(format::HeadStart);
-    for (const auto& [name, bytes] : files) {
-        add(ScrambleText(name));
-        add(ScrambleText(std::to_string(bytes.size())));
-        data += bytes;
-    }
-    head.append(format::HeadEnd).append(format::HeadEndLineEnd);
-    const std::size_t kept = std::min(data.size(), format::ReplacedLineEnd.size());
-    return head + data + std::string(format::ReplacedLineEnd.substr(kept));
 }
 
 void WriteProfileSeeds(const fs::path& folder) {
@@ -102,11 +77,13 @@ void WriteProjectSeeds(const fs::path& folder) {
 }
 
 void WritePackageSeeds(const fs::path& folder) {
-    Write(folder / "two_files", Package({{"tavmoor.cfg", "[Zvuk]\r\n"}, {"a.wav", "RIFF"}}));
-    Write(folder / "empty_file", Package({{"a", ""}}));
-    Write(folder / "one_byte", Package({{"a", ""}, {"b", "x"}}));
-    Write(folder / "no_file", Package({}));
-    Write(folder / "unsafe", Package({{"../a", "x"}, {"nul", "y"}, {"A", "1"}, {"a", "2"}}));
+    Write(folder / "two_files",
+          test::PackageBytes({{"tavmoor.cfg", "[Zvuk]\r\n"}, {"a.wav", "RIFF"}}));
+    Write(folder / "empty_file", test::PackageBytes({{"a", ""}}));
+    Write(folder / "one_byte", test::PackageBytes({{"a", ""}, {"b", "x"}}));
+    Write(folder / "no_file", test::PackageBytes({}));
+    Write(folder / "unsafe",
+          test::PackageBytes({{"../a", "x"}, {"nul", "y"}, {"A", "1"}, {"a", "2"}}));
 }
 
 void WriteVersionSeeds(const fs::path& folder) {

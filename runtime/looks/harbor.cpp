@@ -12,8 +12,8 @@ Look HarborLook() {
     look.headerHeight = 96;
     look.logoPicture = 64;
     look.columnWidth = 232;
-    look.buttonHeight = 42;
-    look.buttonGap = 11;
+    look.buttonHeight = 39;
+    look.buttonGap = 9;
     look.buttonRadius = 8;
     look.captionPadding = 20;
     look.pictureRadius = 7;

@@ -11,7 +11,7 @@ Look MarqueeLook() {
     look.margin = 30;
     look.headerHeight = 100;
     look.logoPicture = 72;
-    look.columnWidth = 210;
+    look.columnWidth = 170;
     look.mostColumns = 4;
     look.buttonHeight = 44;
     look.buttonGap = 10;
@@ -35,7 +35,7 @@ Look MarqueeLook() {
     colors.descriptionTitle = 0xFFFFD9A0;
     colors.description = 0xFFFFFFFF;
     colors.group = 0xFFFFFFFF;
-    colors.band = 0xE00C0A20;
+    colors.band = 0xB80C0A20;
     colors.focus = 0xFFFFFFFF;
     colors.thumb = 0x80FFFFFF;
     colors.buttons = {{{0x26FFFFFF, 0x66FFFFFF, 0xFFFFFFFF, 0},

@@ -12,10 +12,10 @@ Look NexusLook() {
     look.headerHeight = 84;
     look.logoPicture = 52;
     look.columnWidth = 240;
-    look.buttonHeight = 38;
-    look.buttonGap = 8;
+    look.buttonHeight = 34;
+    look.buttonGap = 7;
     look.captionPadding = 20;
-    look.panelPadding = 28;
+    look.panelPadding = 26;
     look.textWidth = 480;
 
     look.fonts.title = {"Segoe UI Light", 26};

@@ -74,8 +74,8 @@ std::string_view SchemeOf(std::string_view address) {
     }
     const std::string_view scheme = address.substr(0, colon);
     const bool slashes = address.substr(colon + 1).starts_with("//");
-    const bool port = address.size() > colon + 1 && address[colon + 1] >= '0' &&
-                      address[colon + 1] <= '9';
+    const bool port =
+        address.size() > colon + 1 && address[colon + 1] >= '0' && address[colon + 1] <= '9';
     const bool word = scheme.find_first_of("/?#@ ") == std::string_view::npos;
     const bool host = scheme.find('.') != std::string_view::npos || port;
     return word && (slashes || !host) ? scheme : std::string_view();
@@ -83,9 +83,8 @@ std::string_view SchemeOf(std::string_view address) {
 
 bool IsPageScheme(std::string_view scheme) {
     constexpr std::array<std::string_view, 3> allowed{"http", "https", "ftp"};
-    return std::any_of(allowed.begin(), allowed.end(), [&](std::string_view name) {
-        return EqualWithoutCase(name, scheme);
-    });
+    return std::any_of(allowed.begin(), allowed.end(),
+                       [&](std::string_view name) { return EqualWithoutCase(name, scheme); });
 }
 
 std::string OnDisc(std::string_view target, std::string_view discFolder) {
@@ -159,9 +158,8 @@ Resolution ResolveMail(std::string_view target, std::string_view parameter) {
 
 } // namespace
 
-std::variant<StartRequest, CommandRefusal> ResolveCommand(const MenuCommand& command,
-                                                          std::string_view discFolder,
-                                                          const PathExists& exists) {
+std::variant<StartRequest, CommandRefusal>
+ResolveCommand(const MenuCommand& command, std::string_view discFolder, const PathExists& exists) {
     const std::string_view target = Bare(command.target);
     if (target.empty()) {
         return CommandRefusal{"This command has no target."};

@@ -35,8 +35,7 @@ using PathExists = std::function<bool(const std::string& path)>;
 ///  - A letter: "mailto:" is added; the parameter is the subject, or the whole query when it is
 ///    one.
 /// @param discFolder folder of the autorun program
-std::variant<StartRequest, CommandRefusal> ResolveCommand(const MenuCommand& command,
-                                                          std::string_view discFolder,
-                                                          const PathExists& exists);
+std::variant<StartRequest, CommandRefusal>
+ResolveCommand(const MenuCommand& command, std::string_view discFolder, const PathExists& exists);
 
 } // namespace tavmoor

@@ -51,7 +51,8 @@ WantedSize ChooseSize(const MenuModel& model, const Look& look, Extent picture) 
     if (model.windowSize.width > 0 || model.windowSize.height > 0) {
         return {WithDefaults(model.windowSize, look.size), true, false};
     }
-    const bool measure = look.sizeOfPicture && picture.width * SmallestPictureShare >= look.size.width &&
+    const bool measure = look.sizeOfPicture &&
+                         picture.width * SmallestPictureShare >= look.size.width &&
                          picture.height * SmallestPictureShare >= look.size.height;
     return measure ? WantedSize{picture, false, true} : WantedSize{look.size, false, false};
 }

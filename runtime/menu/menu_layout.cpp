@@ -8,17 +8,18 @@ namespace tavmoor {
 
 namespace {
 
-constexpr int HeaderAir = 14;        ///< above and below what stands in the header
-constexpr int HeaderGap = 14;        ///< between the logo picture and the texts
-constexpr int BodyGap = 20;          ///< between header, list and description
+constexpr int HeaderAir = 14; ///< above and below what stands in the header
+constexpr int HeaderGap = 14; ///< between the logo picture and the texts
+constexpr int BodyGap = 20;   ///< between header, list and description
 constexpr int ScrollBarWidth = 6;
 constexpr int ScrollBarGap = 6;
-constexpr int MostTitleLines = 2;
+constexpr int MostHeaderLines = 2;
 constexpr int SmallestCell = 150;
+constexpr int LeastListRows = 2;
 constexpr int ReservedDescription = 100; ///< height kept free below a centred list
 
 // Shares in percent.
-constexpr int MostHeader = 45;
+constexpr int MostHeader = 36;
 constexpr int MostLogoText = 35;
 constexpr int MostColumn = 48;
 constexpr int MostGrid = 62;
@@ -63,23 +64,14 @@ private:
         return std::min(Pixels(look_.margin), request_.client.width / 8);
     }
 
-    [[nodiscard]] Extent TitleExtent(int width) const {
-        if (request_.model.title.text.empty()) {
+    [[nodiscard]] Extent HeaderTextExtent(const MenuText& text, const MenuFont& font,
+                                          int width) const {
+        if (text.text.empty()) {
             return {};
         }
-        const MenuFont& font = request_.fonts.title;
-        Extent size = request_.meter.Measure(request_.model.title.text, font, width);
-        size.height = std::min(size.height, MostTitleLines * request_.meter.LineHeight(font));
-        return {std::min(size.width, width), size.height};
-    }
-
-    [[nodiscard]] Extent LogoTextExtent(int width) const {
-        if (request_.model.logo.text.empty()) {
-            return {};
-        }
-        Extent size =
-            request_.meter.Measure(request_.model.logo.text, request_.fonts.logo, width);
-        return {std::min(size.width, width), size.height};
+        const Extent size = request_.meter.Measure(text.text, font, width);
+        return {std::min(size.width, width),
+                std::min(size.height, MostHeaderLines * request_.meter.LineHeight(font))};
     }
 
     [[nodiscard]] Extent LogoPictureExtent() const {
@@ -96,11 +88,12 @@ private:
         const int before = picture.Empty() ? 0 : picture.width + Pixels(HeaderGap);
         int room = std::max(width - 2 * margin - before, 0);
         const bool below = look_.logoBelowTitle;
-        const Extent logo = LogoTextExtent(below ? room : Percent(MostLogoText, room));
+        const Extent logo = HeaderTextExtent(request_.model.logo, request_.fonts.logo,
+                                             below ? room : Percent(MostLogoText, room));
         if (!below && !logo.Empty()) {
             room = std::max(room - logo.width - Pixels(HeaderGap), 0);
         }
-        const Extent title = TitleExtent(room);
+        const Extent title = HeaderTextExtent(request_.model.title, request_.fonts.title, room);
         const int texts = below ? title.height + logo.height : std::max(title.height, logo.height);
         const int content = std::max(texts, picture.height);
         if (content == 0) {
@@ -119,29 +112,32 @@ private:
     }
 
     void PlaceHeaderParts(int left, int before, Extent picture, Extent title, Extent logo) {
-        const int middle = layout_.header.height / 2;
-        layout_.logoPicture = {left, middle - picture.height / 2, picture.width, picture.height};
+        const auto centred = [&](int x, Extent part) {
+            const int height = std::min(part.height, layout_.header.height);
+            return Box{x, (layout_.header.height - height) / 2, part.width, height};
+        };
+        layout_.logoPicture = centred(left, picture);
         const int x = left + before;
         if (!look_.logoBelowTitle) {
-            layout_.title = {x, middle - title.height / 2, title.width, title.height};
-            layout_.logoText = {request_.client.width - Margin() - logo.width,
-                                middle - logo.height / 2, logo.width, logo.height};
+            layout_.title = centred(x, title);
+            layout_.logoText = centred(request_.client.width - Margin() - logo.width, logo);
             return;
         }
-        const int top = middle - (title.height + logo.height) / 2;
         const int widest = std::max(title.width, logo.width);
+        const Box both = centred(x, {widest, title.height + logo.height});
+        const int titleHeight = std::min(title.height, both.height);
         const auto indent = [&](Extent text) {
             return look_.centredHeader ? (widest - text.width) / 2 : 0;
         };
-        layout_.title = {x + indent(title), top, title.width, title.height};
-        layout_.logoText = {x + indent(logo), top + title.height, logo.width, logo.height};
+        layout_.title = {x + indent(title), both.y, title.width, titleHeight};
+        layout_.logoText = {x + indent(logo), both.y + titleHeight, logo.width,
+                            both.height - titleHeight};
     }
 
     [[nodiscard]] Box Body() const {
         const int margin = Margin();
         const int bottom = std::min(margin, request_.client.height / 10);
-        const int top = layout_.header.Empty() ? bottom
-                                               : layout_.header.Bottom() + Pixels(BodyGap);
+        const int top = layout_.header.Empty() ? bottom : layout_.header.Bottom() + Pixels(BodyGap);
         return {margin, top, std::max(request_.client.width - 2 * margin, 1),
                 std::max(request_.client.height - bottom - top, 1)};
     }
@@ -154,8 +150,8 @@ private:
         if (flow.height > area.height) {
             const int bar = Pixels(ScrollBarWidth);
             layout_.scrollBar = {area.Right() - bar, area.y, bar, area.height};
-            flow = FlowButtons(request_, rules,
-                               std::max(area.width - bar - Pixels(ScrollBarGap), 1));
+            flow =
+                FlowButtons(request_, rules, std::max(area.width - bar - Pixels(ScrollBarGap), 1));
         }
         layout_.list = area;
         layout_.listHeight = flow.height;
@@ -180,19 +176,27 @@ private:
         PlacePictureAndText({left ? body.Right() - rest : body.x, body.y, rest, body.height});
     }
 
-    /// The exit button stands right below the list, and stays there while the list scrolls.
+    /// The exit button stands right below the list, and stays there while the list scrolls; in a
+    /// window with no room for that it is part of the list.
     void PlaceListAndExit(Box column) {
         const std::size_t listed = Count() - 1;
         const FlowRules exitRules{listed, 1, 1, false};
         const FlowRules listRules{0, listed, 1, false};
         const ButtonFlow exit = FlowButtons(request_, exitRules, column.width);
         const int gap = Pixels(look_.buttonGap) * (exit.groups.empty() ? 1 : 2);
-        const int room = std::max(column.height - exit.height - gap, 0);
+        const int room = column.height - exit.height - gap;
         const int height = FlowButtons(request_, listRules, column.width).height;
+        layout_.firstFixed = listed;
+        if (room < std::min(height, LeastListRows * Pixels(look_.buttonHeight))) {
+            layout_.firstFixed = Count();
+            ShowList({0, Count(), 1, false}, column);
+            return;
+        }
         column.height = std::min(room, height);
         ShowList(listRules, column);
-        layout_.firstFixed = listed;
-        Take(exit, column.x, column.Bottom() + (listed == 0 ? 0 : gap));
+        const int buttonWidth = listed == 0 ? column.width : layout_.buttons.front().width;
+        Take(FlowButtons(request_, exitRules, buttonWidth), column.x,
+             column.Bottom() + (listed == 0 ? 0 : gap));
     }
 
     void PlacePictureAndText(Box area) {
@@ -207,13 +211,22 @@ private:
         layout_.description = area;
     }
 
-    void PlaceGrid(const Box& body) {
+    /// As many columns as fit, fewer when the rows stay as many: seven buttons stand in rows of
+    /// four and three.
+    [[nodiscard]] int GridColumns(int width) const {
         const int gap = Pixels(look_.buttonGap);
-        const int fitting = (body.width + gap) / (Pixels(look_.columnWidth) + gap);
-        const FlowRules rules{0, Count(), std::clamp(fitting, 1, look_.mostColumns), false};
+        const int fitting = (width + gap) / (Pixels(look_.columnWidth) + gap);
+        const int most = std::clamp(fitting, 1, look_.mostColumns);
+        const int count = static_cast<int>(Count());
+        const int rows = (count + most - 1) / most;
+        return (count + rows - 1) / rows;
+    }
+
+    void PlaceGrid(const Box& body) {
+        const FlowRules rules{0, Count(), GridColumns(body.width), false};
         const int wanted = FlowButtons(request_, rules, body.width).height;
-        const int most = request_.model.HasDescriptions() ? Percent(MostGrid, body.height)
-                                                          : body.height;
+        const int most =
+            request_.model.HasDescriptions() ? Percent(MostGrid, body.height) : body.height;
         const int height = std::min(wanted, most);
         layout_.firstFixed = Count();
         ShowList(rules, {body.x, body.Bottom() - height, body.width, height});
@@ -287,7 +300,8 @@ int MenuLayout::ScrollToShow(std::size_t button, int scroll) const {
     if (button >= firstFixed) {
         return scroll;
     }
-    const int top = buttons[button].y - list.y;
+    // The first button brings the title of its group along.
+    const int top = button == 0 ? 0 : buttons[button].y - list.y;
     const int bottom = buttons[button].Bottom() - list.Bottom();
     return std::clamp(std::min(std::max(scroll, bottom), top), 0, MostScroll());
 }
@@ -322,7 +336,8 @@ DescriptionBoxes PlaceDescription(const LayoutRequest& request, const MenuLayout
     DescriptionBoxes boxes;
     const Look& look = request.look;
     const Box& area = layout.description;
-    const int padding = std::min(ToPixels(look.panelPadding, request.dpi), area.width / 4);
+    const int wanted = request.panel ? look.panelPadding : 0;
+    const int padding = std::min(ToPixels(wanted, request.dpi), area.width / 4);
     const Box inner = area.Inset(padding, std::min(padding, area.height / 4));
     if (description.Empty() || inner.Empty()) {
         boxes.panel = look.panelFillsArea ? area : Box{};

@@ -31,10 +31,11 @@ struct LayoutRequest {
     const Look& look;
     const MenuFonts& fonts;
     const TextMeter& meter;
-    Extent client; ///< pixels
+    Extent client{}; ///< pixels
     int dpi = 96;
-    Extent logoPicture;             ///< natural size; empty for none
+    Extent logoPicture{};           ///< natural size; empty for none
     bool backgroundPicture = false; ///< there is one
+    bool panel = false;             ///< the description has a panel behind it
 };
 
 struct GroupTitle {
@@ -51,9 +52,9 @@ struct MenuLayout {
     Box picture;
     Box description;
 
-    Box list;           ///< the part of the window through which the list shows
-    int listHeight = 0; ///< of the whole list
-    Box scrollBar;      ///< empty when the list shows as a whole
+    Box list;                       ///< the part of the window through which the list shows
+    int listHeight = 0;             ///< of the whole list
+    Box scrollBar;                  ///< empty when the list shows as a whole
     std::vector<Box> buttons;       ///< one for each command, in their order
     std::vector<GroupTitle> groups; ///< in the order of the list
     /// Commands from this one on stand below the list and do not scroll with it.

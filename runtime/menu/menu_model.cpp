@@ -50,15 +50,15 @@ void TakeTexts(MenuModel& model, const ProjectDocument& document) {
     const MainTexts& texts = document.OsnovniPodaci;
     const auto& looks = document.NapredniSabloni.Tekst;
     model.logo = LogoText(texts, looks[0]);
-    model.title = {Text(texts.Glavninaslov),
-                   Font(texts.GlavninaslovFont, texts.GlnaslovVel, false, false,
-                        looks[1].TekstUnderline),
-                   texts.GlnaslovBoja};
-    model.descriptionTitle = {
-        Text(texts.GlavniOpisnaslov),
-        Font(texts.GlavniOpisnaslovFont, texts.GlavniOpisnaslovVel, texts.GlavniOpisnaslovBold,
-             texts.GlavniOpisnaslovItalic, looks[2].TekstUnderline),
-        texts.GlavniOpisnaslovBoja};
+    model.title = {
+        Text(texts.Glavninaslov),
+        Font(texts.GlavninaslovFont, texts.GlnaslovVel, false, false, looks[1].TekstUnderline),
+        texts.GlnaslovBoja};
+    model.descriptionTitle = {Text(texts.GlavniOpisnaslov),
+                              Font(texts.GlavniOpisnaslovFont, texts.GlavniOpisnaslovVel,
+                                   texts.GlavniOpisnaslovBold, texts.GlavniOpisnaslovItalic,
+                                   looks[2].TekstUnderline),
+                              texts.GlavniOpisnaslovBoja};
     model.description = {Text(texts.GlavniOpis),
                          Font(texts.GlavniOpisFont, texts.GlavniOpisVel, texts.GlavniOpisBold,
                               texts.GlavniOpisItalic, looks[3].TekstUnderline),
@@ -112,9 +112,13 @@ void TakeFixedCommands(MenuModel& model, const ProjectDocument& document) {
         }
         const CommandKind kind = KindOf(from.Vrsta);
         const bool online = kind == CommandKind::VisitPage || kind == CommandKind::SendMail;
-        model.commands.push_back({kind, online ? MenuGroup::Info : MenuGroup::Main,
-                                  Text(from.Opis), Text(from.Fajl), Text(from.Parametar),
-                                  {Text(told.C), Text(told.O)}, from.Zatvara != 0});
+        model.commands.push_back({kind,
+                                  online ? MenuGroup::Info : MenuGroup::Main,
+                                  Text(from.Opis),
+                                  Text(from.Fajl),
+                                  Text(from.Parametar),
+                                  {Text(told.C), Text(told.O)},
+                                  from.Zatvara != 0});
     }
 }
 
@@ -123,8 +127,11 @@ void TakeAdditionalCommands(MenuModel& model, const ProjectDocument& document) {
         if (from.addname.empty() || from.addname == " ") {
             continue;
         }
-        model.commands.push_back({KindOf(from.addtype), MenuGroup::Additional, Text(from.addname),
-                                  Text(from.addtarget), Text(from.addparam),
+        model.commands.push_back({KindOf(from.addtype),
+                                  MenuGroup::Additional,
+                                  Text(from.addname),
+                                  Text(from.addtarget),
+                                  Text(from.addparam),
                                   {Text(from.adddesctitle), Text(from.adddescription)},
                                   SaysYes(from.addclose)});
     }
@@ -197,9 +204,8 @@ MenuModel MakeMenuModel(const ProjectDocument& document, DesignedIn place) {
 }
 
 void GatherGroups(MenuModel& model) {
-    std::stable_sort(
-        model.commands.begin(), model.commands.end(),
-        [](const MenuCommand& a, const MenuCommand& b) { return a.group < b.group; });
+    std::stable_sort(model.commands.begin(), model.commands.end(),
+                     [](const MenuCommand& a, const MenuCommand& b) { return a.group < b.group; });
 }
 
 } // namespace tavmoor

@@ -41,6 +41,7 @@ public:
     /// The keyboard went to a button; it stays in charge until the pointer comes to another one.
     void FocusByKey(std::size_t button);
 
+    [[nodiscard]] std::optional<std::size_t> PointedAt() const { return hovered_; }
     [[nodiscard]] std::optional<std::size_t> Focused() const { return focused_; }
     /// The button that wears the focus frame: none as long as only the pointer is used.
     [[nodiscard]] std::optional<std::size_t> Framed() const {

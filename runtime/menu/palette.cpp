@@ -19,6 +19,9 @@ constexpr std::uint32_t NewButtonFace = 0x8000000F;
 constexpr std::uint32_t NewDescriptionColor = 0x00FFFFFF;
 constexpr std::uint32_t NewTextColor = 0;
 
+/// Opacity of a button's face on a picture.
+constexpr std::uint32_t OverPicture = 0xC8;
+
 constexpr std::uint32_t SystemColorBit = 0x80000000;
 
 constexpr std::uint32_t Channel(Argb color, int shift) {
@@ -50,8 +53,8 @@ Argb ReadableOn(Argb back, Argb wanted) {
 /// Works the author's choices into a look's palette.
 class PaletteMaker {
 public:
-    PaletteMaker(const MenuModel& model, const Look& look, const SystemColors& system)
-        : model_(model), look_(look), system_(system), palette_(look.colors) {}
+    PaletteMaker(const MenuModel& model, const Look& look, const SystemColors& system, bool picture)
+        : model_(model), look_(look), system_(system), picture_(picture), palette_(look.colors) {}
 
     Palette Make() {
         TakeBack();
@@ -102,13 +105,15 @@ private:
         const auto& face = model_.buttonFaceColor;
         if (face && static_cast<std::uint32_t>(*face) != NewButtonFace) {
             TakeFace(SolidColor(*face, system_));
+        } else if (picture_ && Channel(palette_.band, 24) == 0) {
+            Argb& own = palette_.buttons.front().face;
+            own = WithOpacity(Blend(own, palette_.back), std::max(Channel(own, 24), OverPicture));
         }
         const auto& text = model_.buttonTextColor;
         const bool textChosen = text && static_cast<std::uint32_t>(*text) != NewButtonText;
         for (ButtonColors& button : palette_.buttons) {
-            button.text = textChosen
-                              ? SolidColor(*text, system_)
-                              : ReadableOn(Blend(button.face, palette_.back), button.text);
+            button.text = textChosen ? SolidColor(*text, system_)
+                                     : ReadableOn(Blend(button.face, palette_.back), button.text);
         }
         if (model_.buttonShadowColor) {
             palette_.buttonShadow = SolidColor(*model_.buttonShadowColor, system_);
@@ -117,7 +122,7 @@ private:
 
     void TakeFace(Argb face) {
         const bool dark = Contrast(face, White) > Contrast(face, Ink);
-        const Argb hover = Blend(WithOpacity(dark ? White : Ink, dark ? 0x38 : 0x20), face);
+        const Argb hover = Blend(WithOpacity(dark ? White : Ink, dark ? 0x2C : 0x20), face);
         const Argb pressed = Blend(WithOpacity(Ink, 0x40), face);
         const Argb border = Blend(WithOpacity(dark ? White : Ink, 0x40), face);
         const std::array<Argb, ButtonStates> faces{face, hover, pressed};
@@ -130,6 +135,7 @@ private:
     const MenuModel& model_;
     const Look& look_;
     const SystemColors& system_;
+    bool picture_;
     Palette palette_;
 };
 
@@ -157,8 +163,9 @@ double Contrast(Argb a, Argb b) {
     return std::max(first, second) / std::min(first, second);
 }
 
-Palette MakePalette(const MenuModel& model, const Look& look, const SystemColors& system) {
-    return PaletteMaker(model, look, system).Make();
+Palette MakePalette(const MenuModel& model, const Look& look, const SystemColors& system,
+                    bool picture) {
+    return PaletteMaker(model, look, system, picture).Make();
 }
 
 } // namespace tavmoor

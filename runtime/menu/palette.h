@@ -20,6 +20,9 @@ double Contrast(Argb a, Argb b);
 
 /// The colours to draw with. Colours that the author chose stand as they are; the look's own fill
 /// the rest, and give way to black or white where the chosen ones would make them unreadable.
-Palette MakePalette(const MenuModel& model, const Look& look, const SystemColors& system);
+/// @param picture a picture fills the window: faces that let it through are made solid enough to
+///        be read on any
+Palette MakePalette(const MenuModel& model, const Look& look, const SystemColors& system,
+                    bool picture);
 
 } // namespace tavmoor

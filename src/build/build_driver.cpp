@@ -150,7 +150,7 @@ private:
     }
 
     void MakePackage() {
-        WritePackage(document_.Working.listafajlova, buildFolder_, events_);
+        events_.PackageWritten(WritePackage(document_.Working.listafajlova, buildFolder_, events_));
         UpdateTemplateRuntimePath(document_);
         CopyFileIgnoringErrors(document_.Working.TemplateRuntimePath, Built(ProgramName()));
         DeleteFileIgnoringErrors(Built(package_format::ConfigurationName));

@@ -24,12 +24,12 @@ struct BuildRequest {
     bool startAfterBuild = false; ///< "Start autorun after 'Build and save'"
 };
 
-/// The name that a build starts from: `exename` without its ".exe", or the program title while there
-/// is none.
+/// The name that a build starts from: `exename` without its ".exe", or the program title while
+/// there is none.
 std::string InitialAutorunName(const ProjectDocument& document);
 
-/// The whole build, from validation to the finished disc folder. It changes the document: `exename`,
-/// empty screen times (become "5"), `TemplateRuntimePath` and `listafajlova`.
+/// The whole build, from validation to the finished disc folder. It changes the document:
+/// `exename`, empty screen times (become "5"), `TemplateRuntimePath` and `listafajlova`.
 /// @throws RuntimeError when a working file cannot be written or read, a name cannot be scrambled,
 ///         there are more than 20 files, or the build folder is missing or not the user's own.
 ///         Failures while the output is placed are ignored one by one.

@@ -4,9 +4,17 @@
 
 #include <chrono>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace tavmoor {
+
+/// What is known of a package that was written: enough to tell it from every other one, since the
+/// noise in its head is new each time.
+struct BuiltPackage {
+    std::string head;         ///< its first bytes, up to the first file
+    std::uint64_t length = 0; ///< bytes
+};
 
 enum class BuildMessageKind : std::uint8_t { Plain, Critical };
 
@@ -34,6 +42,8 @@ public:
     virtual void PackingFile(std::string_view /*path*/) {}
     /// Bytes of all files that are in the package so far, and that will be.
     virtual void PackageProgress(std::uint64_t /*done*/, std::uint64_t /*total*/) {}
+
+    virtual void PackageWritten(const BuiltPackage& /*package*/) {}
 
     /// Lets pending events run.
     virtual void LetEventsRun() {}

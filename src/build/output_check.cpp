@@ -1,14 +1,15 @@
 #include "build/output_check.h"
 
 #include "build/autorun_inf.h"
+#include "build/marked_programs.h"
 #include "build/package_format.h"
 #include "build/package_reader.h"
 #include "core/document_path.h"
 #include "core/field_writer.h"
 #include "core/file_store.h"
 #include "core/runtime_error.h"
-#include "core/value_encoding.h"
 
+#include <fstream>
 #include <optional>
 
 namespace tavmoor {
@@ -25,8 +26,8 @@ std::optional<std::string> ContentOf(const std::string& path) {
 
 class OutputCheck {
 public:
-    explicit OutputCheck(const ProjectDocument& document)
-        : document_(document), folder_(WithBackslash(document.CdFolder())) {}
+    OutputCheck(const ProjectDocument& document, const BuiltPackage& built)
+        : document_(document), built_(built), folder_(WithBackslash(document.CdFolder())) {}
 
     std::vector<std::string> Run() {
         CompareFile(document_.OsnovniPodaci.exename,
@@ -34,6 +35,7 @@ public:
                     "the template's program " + document_.Working.TemplateRuntimePath);
         ComparePackage();
         CompareIcon();
+        FindOlderPrograms();
         CompareFile("Autorun.inf", AutorunInfText(document_), "what was written");
         return std::move(faults_);
     }
@@ -57,46 +59,55 @@ private:
         if (!icon.empty()) {
             CompareFile(IconName, ContentOf(icon), "the icon " + icon);
         } else if (FileExists(folder_ + std::string(IconName))) {
-            faults_.push_back(folder_ + std::string(IconName) + " of an earlier build is still there.");
+            faults_.push_back(folder_ + std::string(IconName) +
+                              " of an earlier build is still there.");
+        }
+    }
+
+    void FindOlderPrograms() {
+        const std::string own = folder_ + document_.OsnovniPodaci.exename;
+        for (const std::string& path : MarkedProgramsIn(document_.CdFolder())) {
+            if (!SamePath(path, own)) {
+                faults_.push_back("The older autorun program " + path + " could not be deleted.");
+            }
         }
     }
 
     void ComparePackage() {
         const std::string path = folder_ + std::string(package_format::PackageName);
+        if (FileLengthOrZero(path) != built_.length || HeadOf(path) != built_.head) {
+            faults_.push_back(path + " is not the package that was built.");
+            return;
+        }
         try {
             PackageFile package(NativePath(path));
-            CompareEntries(package, path);
+            if (package.Read(package.Entries().at(0)) !=
+                FieldFileText(document_, FieldFile::Configuration)) {
+                faults_.push_back(path + " does not hold the project's configuration.");
+            }
         } catch (const PackageError& error) {
             faults_.push_back(path + " is damaged: " + error.what());
         }
     }
 
-    void CompareEntries(PackageFile& package, const std::string& path) {
-        const auto& list = document_.Working.listafajlova;
-        const auto& entries = package.Entries();
-        bool same = entries.size() == list.size() && !entries.empty();
-        for (std::size_t i = 0; same && i < list.size(); ++i) {
-            // The configuration is gone from the build folder; its bytes are compared below.
-            const bool sameSize = i == 0 || entries[i].size == FileLengthOrZero(list[i]);
-            same = entries[i].name == FileNameOf(list[i]) && sameSize;
-        }
-        if (!same) {
-            faults_.push_back(path + " does not hold the project's files.");
-        } else if (package.Read(entries.front()) !=
-                   FieldFileText(document_, FieldFile::Configuration)) {
-            faults_.push_back(path + " does not hold the project's configuration.");
-        }
+    [[nodiscard]] std::string HeadOf(const std::string& path) const {
+        std::ifstream file(NativePath(path), std::ios::binary);
+        std::string head(built_.head.size(), '\0');
+        file.read(head.data(), static_cast<std::streamsize>(head.size()));
+        return head;
     }
 
     const ProjectDocument& document_;
+    const BuiltPackage& built_;
     std::string folder_;
     std::vector<std::string> faults_;
 };
 
 } // namespace
 
-std::vector<std::string> FaultsOfPlacedOutput(const ProjectDocument& document) {
-    return OutputCheck(document).Run();
+std::vector<std::string> FaultsOfPlacedOutput(const ProjectDocument& document,
+                                              const BuiltPackage& package) {
+    return OutputCheck(document, package).Run();
 }
 
 } // namespace tavmoor

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "build/build_events.h"
 #include "core/project_document.h"
 
 #include <string>
@@ -8,9 +9,12 @@
 namespace tavmoor {
 
 /// Compares what lies in the disc's folder with what a build has just placed there: the autorun
-/// program with the template's, the package's names, sizes and configuration with the project's,
-/// `Autorun.inf` and the icon. Placing ignores errors one by one; this tells them.
+/// program with the template's, the package's head, length and configuration with those of the one
+/// that was written, `Autorun.inf` and the icon; and tells what should be gone and is not. Placing
+/// ignores errors one by one; this tells them. The files' bytes in the package are not read again:
+/// its head is that of this build and no other.
 /// @return one sentence for each fault, code page bytes; empty when all is as built
-std::vector<std::string> FaultsOfPlacedOutput(const ProjectDocument& document);
+std::vector<std::string> FaultsOfPlacedOutput(const ProjectDocument& document,
+                                              const BuiltPackage& package);
 
 } // namespace tavmoor

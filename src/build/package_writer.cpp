@@ -37,8 +37,8 @@ public:
     Writer(const Slots& slots, std::string target, BuildEvents& events)
         : slots_(slots), target_(std::move(target)), events_(events) {}
 
-    std::uint64_t Write() {
-        const std::string head = Head();
+    BuiltPackage Write() {
+        std::string head = Head();
         Require(output_.Open(NativePath(target_), head.size() + total_));
         // The data begins two bytes early, over the last line end of the head.
         Append(std::string_view(head).substr(0, head.size() - Overlap));
@@ -49,7 +49,9 @@ public:
         const std::uint64_t covered = std::min<std::uint64_t>(total_, Overlap);
         Append(std::string_view(head).substr(head.size() - Overlap + covered));
         Require(output_.Close());
-        return head.size() - covered + total_;
+        const std::uint64_t length = head.size() - covered + total_;
+        head.resize(head.size() - Overlap);
+        return {std::move(head), length};
     }
 
 private:
@@ -122,8 +124,8 @@ private:
 
 } // namespace
 
-std::uint64_t WritePackage(const std::vector<std::string>& listafajlova,
-                           const std::string& buildFolder, BuildEvents& events) {
+BuiltPackage WritePackage(const std::vector<std::string>& listafajlova,
+                          const std::string& buildFolder, BuildEvents& events) {
     const auto slots = CopyToSlots(listafajlova);
     return Writer(*slots, WithBackslash(buildFolder) + "autorun.arn", events).Write();
 }

@@ -70,7 +70,8 @@ private:
             Find(FindingKind::NameInvalid, name, "The autorun program has no name.");
         } else if (!IsValidName(name)) {
             Find(FindingKind::NameInvalid, name,
-                 "\"" + name + "\" is no name for an autorun program: only letters A to Z, digits, " +
+                 "\"" + name +
+                     "\" is no name for an autorun program: only letters A to Z, digits, " +
                      "\"_\" and \"-\" can be used.");
         }
     }
@@ -79,8 +80,7 @@ private:
     [[nodiscard]] std::vector<std::string> Files() const {
         std::vector<std::string> files = PackageFilesOf(document_, 1, FontPackageOrder);
         for (std::size_t row = 0; row < ButtonRows; ++row) {
-            std::string key;
-            AppendKey(key, "DugmePictureFile", KeyForm::Parentheses, row);
+            const std::string key = "DugmePictureFile" + KeySuffix(KeyForm::Parentheses, row);
             std::string path =
                 ExpandProgramFolder(file_.Value("Napredni sabloni", key), programFolder_);
             if (!path.empty() && std::find(files.begin(), files.end(), path) == files.end()) {
@@ -140,7 +140,8 @@ private:
 
     void CheckValues() {
         for (const ProfileFile::Entry& entry : file_.Entries()) {
-            const std::string key = "[" + std::string(entry.section) + "] " + std::string(entry.key);
+            const std::string key =
+                "[" + std::string(entry.section) + "] " + std::string(entry.key);
             if (entry.value.size() > ProfileFile::MaximumValue) {
                 Find(FindingKind::ValueTooLong, key,
                      key + " has " + std::to_string(entry.value.size()) +

@@ -7,7 +7,6 @@
 #include "core/runtime_error.h"
 #include "open_project.h"
 
-#include <cstdio>
 #include <optional>
 
 namespace tavmoor::cli {
@@ -35,13 +34,13 @@ private:
 /// Prints the progress; messages that a window would show become the failure of the command.
 class BuildProgress final : public BuildEvents {
 public:
-    void Status(std::string_view text) override { PrintLine(OneLine(text)); }
+    void Status(std::string_view text) override { Line(OneLine(text)); }
     void ShowMessage(std::string_view text, std::string_view /*title*/,
                      BuildMessageKind /*kind*/) override {
         failure_ = OneLine(text);
     }
-    void CheckingFile(std::string_view path) override { PrintLine("  checking " + Utf8(path)); }
-    void PackingFile(std::string_view path) override { PrintLine("  packing " + Utf8(path)); }
+    void CheckingFile(std::string_view path) override { Line("  checking " + Utf8(path)); }
+    void PackingFile(std::string_view path) override { Line("  packing " + Utf8(path)); }
     void PackageProgress(std::uint64_t done, std::uint64_t total) override {
         const auto percent = total == 0 ? 100 : static_cast<int>(done * 100 / total);
         if (percent >= printed_ + step_ || (percent == 100 && printed_ < 100)) {
@@ -49,21 +48,31 @@ public:
             PrintPercentage(percent);
         }
     }
+    void PackageWritten(const BuiltPackage& package) override { package_ = package; }
     void StartAutorun(std::string_view path) override { started_ = path; }
 
     [[nodiscard]] const std::string& Failure() const { return failure_; }
+    [[nodiscard]] const BuiltPackage& Package() const { return package_; }
     [[nodiscard]] const std::string& Started() const { return started_; }
 
 private:
-    void PrintPercentage(int percent) const {
-        const bool rewrite = terminal_ && percent < 100;
-        std::printf("%s  package %3d %%%s", terminal_ ? "\r" : "", percent, rewrite ? "" : "\n");
-        std::fflush(stdout);
+    void Line(const std::string& text) {
+        PrintPart(rewriting_ ? "\n" : "");
+        rewriting_ = false;
+        PrintLine(text);
+    }
+
+    void PrintPercentage(int percent) {
+        const std::string text = "  package " + std::to_string(percent) + " %";
+        rewriting_ = terminal_ && percent < 100;
+        PrintPart((terminal_ ? "\r" : "") + text + (rewriting_ ? "" : "\n"));
     }
 
     bool terminal_ = OutputIsTerminal();
     int step_ = terminal_ ? 1 : 10;
     int printed_ = -1;
+    bool rewriting_ = false; ///< the percentage stands on a line that is not ended
+    BuiltPackage package_;
     std::string failure_;
     std::string started_;
 };
@@ -74,8 +83,8 @@ void RequireNoWarning(const OpenProject& project) {
     }
 }
 
-void RequirePlaced(const ProjectDocument& document) {
-    const auto faults = FaultsOfPlacedOutput(document);
+void RequirePlaced(const ProjectDocument& document, const BuiltPackage& package) {
+    const auto faults = FaultsOfPlacedOutput(document, package);
     for (const std::string& fault : faults) {
         PrintError(OneLine(fault));
     }
@@ -92,16 +101,18 @@ int BuildCommand(const BuildArguments& arguments, const ProjectDocument*& openPr
         LoadProject(PathArgument(arguments.project), programFolder, ButtonRowsAre::Live);
     RequireNoWarning(*project);
     ProjectDocument& document = project->document;
-    if (!arguments.cdFolder.empty()) {
-        document.OsnovnaPodesavanja.GlavniDirektorijum = PathArgument(arguments.cdFolder);
+    if (arguments.cdFolder) {
+        document.OsnovnaPodesavanja.GlavniDirektorijum = PathArgument(*arguments.cdFolder);
+    }
+    if (document.CdFolder().empty()) {
+        throw CommandFailure("the project names no CD-ROM files folder: give one with --cd-folder");
     }
     if (document.OsnovnaPodesavanja.Sablon.empty()) {
         throw CommandFailure("the project has no template");
     }
     const WorkingFolder folder;
     BuildRequest request;
-    request.name =
-        arguments.name.empty() ? InitialAutorunName(document) : TextArgument(arguments.name);
+    request.name = arguments.name ? TextArgument(*arguments.name) : InitialAutorunName(document);
     request.buildFolder = folder.Path();
     request.startAfterBuild = arguments.run;
     BuildProgress progress;
@@ -116,7 +127,7 @@ int BuildCommand(const BuildArguments& arguments, const ProjectDocument*& openPr
         openProject = &*kept;
         throw;
     }
-    RequirePlaced(document);
+    RequirePlaced(document, progress.Package());
     if (arguments.run) {
         StartAutorunProgram(NativePath(progress.Started()));
     }

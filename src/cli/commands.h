@@ -2,18 +2,19 @@
 
 #include "core/project_document.h"
 
+#include <optional>
 #include <string>
 
 namespace tavmoor::cli {
 
-// The commands of tavmoor-cli. Arguments are UTF-8 as typed; each returns the exit code, 0 only when
-// all that was asked for was done, and throws CommandFailure, PackageError or RuntimeError.
+// The commands of tavmoor-cli. Arguments are UTF-8 as typed; each returns the exit code, 0 only
+// when all that was asked for was done, and throws CommandFailure, PackageError or RuntimeError.
 
 struct BuildArguments {
     std::string project;
-    std::string cdFolder;
-    std::string name;
-    std::string programFolder;
+    std::optional<std::string> cdFolder;
+    std::optional<std::string> name;
+    std::optional<std::string> programFolder;
     bool run = false;
 };
 /// @param openProject is set to the project while it is open, for the boundary that saves it when a
@@ -23,7 +24,7 @@ int BuildCommand(const BuildArguments& arguments, const ProjectDocument*& openPr
 struct ResaveArguments {
     std::string input;
     std::string output;
-    std::string programFolder;
+    std::optional<std::string> programFolder;
     bool asRead = false;
 };
 int ResaveCommand(const ResaveArguments& arguments);
@@ -31,7 +32,7 @@ int ResaveCommand(const ResaveArguments& arguments);
 struct ProjectArguments {
     std::string project;
     std::string output;
-    std::string programFolder;
+    std::optional<std::string> programFolder;
     bool json = false;
 };
 int ConfigurationCommand(const ProjectArguments& arguments);
@@ -41,6 +42,6 @@ int CheckCommand(const ProjectArguments& arguments);
 int PackageListCommand(const std::string& file);
 int PackageExtractCommand(const std::string& file, const std::string& folder);
 
-int TemplatesCommand(const std::string& programFolder);
+int TemplatesCommand(const std::optional<std::string>& programFolder);
 
 } // namespace tavmoor::cli

@@ -4,15 +4,27 @@
 #include "core/document_path.h"
 #include "core/runtime_error.h"
 
-#include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 
 namespace tavmoor::cli {
 
 namespace {
 
 namespace fs = std::filesystem;
+
+bool IsControl(unsigned char byte) {
+    return byte < 0x20 || byte == 0x7F;
+}
+
+bool Print(std::FILE* stream, std::string_view utf8) {
+    return std::fwrite(utf8.data(), 1, utf8.size(), stream) == utf8.size() &&
+           std::fflush(stream) == 0;
+}
+
+} // namespace
 
 bool IsDocumentForm(const std::string& utf8) {
     const bool drive = utf8.size() >= 2 && utf8[1] == ':' &&
@@ -24,14 +36,6 @@ fs::path FromUtf8(const std::string& utf8) {
     return std::u8string(utf8.begin(), utf8.end());
 }
 
-void Print(std::FILE* stream, std::string_view utf8) {
-    std::fwrite(utf8.data(), 1, utf8.size(), stream);
-    std::fputc('\n', stream);
-    std::fflush(stream);
-}
-
-} // namespace
-
 std::string Utf8(std::string_view codePageText) {
     return SystemCodePage().ToUtf8(codePageText);
 }
@@ -42,18 +46,25 @@ std::string OneLine(std::string_view codePageText) {
         if (character == '\n') {
             line += ' ';
         } else if (character != '\r') {
-            line += character;
+            line += IsControl(static_cast<unsigned char>(character)) ? '?' : character;
         }
     }
     return Utf8(line);
 }
 
+void PrintPart(std::string_view utf8) {
+    if (!Print(stdout, utf8)) {
+        throw CommandFailure("standard output cannot be written: " +
+                             std::generic_category().message(errno));
+    }
+}
+
 void PrintLine(std::string_view utf8) {
-    Print(stdout, utf8);
+    PrintPart(std::string(utf8) + "\n");
 }
 
 void PrintError(std::string_view utf8) {
-    Print(stderr, "tavmoor-cli: " + std::string(utf8));
+    Print(stderr, "tavmoor-cli: " + std::string(utf8) + "\n");
 }
 
 std::string TextArgument(const std::string& utf8) {
@@ -66,6 +77,9 @@ std::string TextArgument(const std::string& utf8) {
 }
 
 std::string PathArgument(const std::string& utf8) {
+    if (utf8.empty()) {
+        throw CommandFailure("a path is empty");
+    }
     if (IsDocumentForm(utf8)) {
         return TextArgument(utf8);
     }
@@ -76,10 +90,6 @@ std::string PathArgument(const std::string& utf8) {
                              std::to_string(SystemCodePage().Number()) +
                              " does not know all of its characters, or it holds a backslash");
     }
-}
-
-fs::path NativeArgument(const std::string& utf8) {
-    return IsDocumentForm(utf8) ? NativePath(TextArgument(utf8)) : FromUtf8(utf8);
 }
 
 } // namespace tavmoor::cli

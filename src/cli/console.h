@@ -20,11 +20,15 @@ public:
 /// A core text as UTF-8.
 std::string Utf8(std::string_view codePageText);
 
-/// The same on one line, for messages that have several.
+/// The same on one line, for messages that have several; other control characters, which would
+/// steer a terminal, become "?".
 std::string OneLine(std::string_view codePageText);
 
-/// A line on standard output, and an error line on standard error.
+/// A line, or a part of one, on standard output.
+/// @throws CommandFailure when it cannot be written
 void PrintLine(std::string_view utf8);
+void PrintPart(std::string_view utf8);
+/// An error line on standard error.
 void PrintError(std::string_view utf8);
 
 /// A typed text as core text.
@@ -32,16 +36,20 @@ void PrintError(std::string_view utf8);
 std::string TextArgument(const std::string& utf8);
 
 /// A typed path, native or in document form, as an absolute document path.
-/// @throws CommandFailure when the document cannot say the path
+/// @throws CommandFailure for "", and when the document cannot say the path
 std::string PathArgument(const std::string& utf8);
 
-/// A typed path, native or in document form, as a native path.
-std::filesystem::path NativeArgument(const std::string& utf8);
+/// True for a typed path that begins with a drive or a backslash.
+bool IsDocumentForm(const std::string& utf8);
+
+std::filesystem::path FromUtf8(const std::string& utf8);
 
 // One file per platform answers these.
 
 /// The arguments of the program in UTF-8, without the program itself.
 std::vector<std::string> CommandLineArguments(int count, char** values);
+/// A typed path, native or in document form, as a native path.
+std::filesystem::path NativeArgument(const std::string& utf8);
 /// Makes the terminal show UTF-8.
 void PrepareConsole();
 /// True when standard output is a terminal that a line can be rewritten on.

@@ -18,6 +18,10 @@ std::vector<std::string> CommandLineArguments(int count, char** values) {
     return {values + 1, values + count};
 }
 
+std::filesystem::path NativeArgument(const std::string& utf8) {
+    return IsDocumentForm(utf8) ? NativePath(TextArgument(utf8)) : FromUtf8(utf8);
+}
+
 void PrepareConsole() {}
 
 bool OutputIsTerminal() {

@@ -22,6 +22,10 @@ std::vector<std::string> CommandLineArguments(int /*count*/, char** /*values*/) 
     return arguments;
 }
 
+std::filesystem::path NativeArgument(const std::string& utf8) {
+    return FromUtf8(utf8); // the two forms are one here
+}
+
 void PrepareConsole() {
     SetConsoleOutputCP(CP_UTF8);
 }

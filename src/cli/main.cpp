@@ -29,12 +29,22 @@ public:
     }
 
     void Parse(std::vector<std::string> arguments) {
+        if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 &&
+            app_.get_subcommand_no_throw(arguments.front()) == nullptr) {
+            throw CLI::ArgumentMismatch("there is no command \"" + arguments.front() + "\"");
+        }
         std::reverse(arguments.begin(), arguments.end()); // the order that the parser wants
         app_.parse(std::move(arguments));
     }
 
     int Exit(const CLI::ParseError& error) {
-        return app_.exit(error) == 0 ? 0 : UsageError;
+        if (error.get_exit_code() == 0) {
+            return app_.exit(error); // --help
+        }
+        std::string text = error.what();
+        std::replace(text.begin(), text.end(), '\n', ' ');
+        PrintError(text + " (see tavmoor-cli --help)");
+        return UsageError;
     }
 
     int Run() { return command_(); }
@@ -42,7 +52,7 @@ public:
     [[nodiscard]] const ProjectDocument* OpenProject() const { return openProject_; }
 
 private:
-    static void AddProgramFolder(CLI::App* command, std::string& folder) {
+    static void AddProgramFolder(CLI::App* command, std::optional<std::string>& folder) {
         command->add_option("--program-folder", folder,
                             "The folder that a leading % in the project stands for");
     }
@@ -54,7 +64,8 @@ private:
         build->add_option("--name", build_.name, "The autorun's name, without .exe");
         build->add_flag("--run", build_.run, "Start the autorun afterwards");
         AddProgramFolder(build, build_.programFolder);
-        build->callback([this] { command_ = [this] { return BuildCommand(build_, openProject_); }; });
+        build->callback(
+            [this] { command_ = [this] { return BuildCommand(build_, openProject_); }; });
     }
 
     void AddResave() {

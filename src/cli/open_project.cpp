@@ -40,8 +40,8 @@ std::unique_ptr<OpenProject> LoadProject(const std::string& path, const std::str
     return project;
 }
 
-std::string ChosenProgramFolder(const std::string& argument) {
-    std::string folder = argument.empty() ? ProgramFolder() : PathArgument(argument);
+std::string ChosenProgramFolder(const std::optional<std::string>& argument) {
+    std::string folder = argument ? PathArgument(*argument) : ProgramFolder();
     while (folder.size() > 3 && folder.back() == '\\') {
         folder.pop_back();
     }

@@ -4,6 +4,7 @@
 #include "core/project_document.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,7 +28,7 @@ enum class ButtonRowsAre : std::uint8_t {
 std::unique_ptr<OpenProject> LoadProject(const std::string& path, const std::string& programFolder,
                                          ButtonRowsAre rows);
 
-/// The program folder that was asked for, or this program's own for "".
-std::string ChosenProgramFolder(const std::string& argument);
+/// The program folder that was asked for, or this program's own.
+std::string ChosenProgramFolder(const std::optional<std::string>& argument);
 
 } // namespace tavmoor::cli

@@ -2,6 +2,7 @@
 
 #include "build/package_reader.h"
 #include "console.h"
+#include "core/file_store.h"
 #include "open_project.h"
 #include "templates/template_catalogue.h"
 #include "templates/template_descriptor.h"
@@ -22,13 +23,17 @@ int PackageExtractCommand(const std::string& file, const std::string& folder) {
     return 0;
 }
 
-int TemplatesCommand(const std::string& programFolder) {
+int TemplatesCommand(const std::optional<std::string>& programFolder) {
     const std::string folder = ChosenProgramFolder(programFolder);
+    if (!FolderExists(TemplatesFolder(folder))) {
+        throw CommandFailure(Utf8(TemplatesFolder(folder)) + " does not exist");
+    }
     const std::string editor = EditorDescriptorPath(folder);
     if (const std::string name = TemplateDisplayName(editor); !name.empty()) {
         PrintLine(OneLine(name) + "\t" + Utf8(editor));
     }
-    for (const TemplateInfo& found : NamedTemplates(ReadTemplateCatalogue(TemplatesFolder(folder)))) {
+    for (const TemplateInfo& found :
+         NamedTemplates(ReadTemplateCatalogue(TemplatesFolder(folder)))) {
         PrintLine(OneLine(found.name) + "\t" + Utf8(found.descriptorPath));
     }
     return 0;

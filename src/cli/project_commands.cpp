@@ -15,7 +15,8 @@ namespace tavmoor::cli {
 
 namespace {
 
-std::unique_ptr<OpenProject> Load(const std::string& project, const std::string& programFolder,
+std::unique_ptr<OpenProject> Load(const std::string& project,
+                                  const std::optional<std::string>& programFolder,
                                   ButtonRowsAre rows) {
     auto opened = LoadProject(PathArgument(project), ChosenProgramFolder(programFolder), rows);
     for (const std::string& warning : opened->warnings) {
@@ -25,7 +26,8 @@ std::unique_ptr<OpenProject> Load(const std::string& project, const std::string&
 }
 
 /// Calls `take` with each stored field whose value is not that of a new project.
-template <typename Take> void ForEachChange(const ProjectDocument& document, Take take) {
+template <typename Take>
+void ForEachChange(const ProjectDocument& document, Take take) {
     const auto fresh = std::make_unique<ProjectDocument>(NewProjectDocument());
     for (const FieldBlock& block : ProjectBlocks()) {
         for (std::size_t row = block.first; row <= block.last; ++row) {
@@ -38,12 +40,6 @@ template <typename Take> void ForEachChange(const ProjectDocument& document, Tak
             }
         }
     }
-}
-
-std::string KeyOf(const FieldPlace& place) {
-    std::string key;
-    AppendKey(key, place.field->key, place.block->keyForm, place.row);
-    return key;
 }
 
 nlohmann::ordered_json JsonOf(ConstValueRef value) {
@@ -90,16 +86,14 @@ int ResaveCommand(const ResaveArguments& arguments) {
 }
 
 int ConfigurationCommand(const ProjectArguments& arguments) {
-    const auto project =
-        Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
+    const auto project = Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
     WriteWholeFile(PathArgument(arguments.output),
                    FieldFileText(project->document, FieldFile::Configuration));
     return 0;
 }
 
 int ShowCommand(const ProjectArguments& arguments) {
-    const auto project =
-        Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
+    const auto project = Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
     if (arguments.json) {
         PrintJson(project->document);
     } else {

@@ -13,12 +13,7 @@ constexpr std::size_t LongestTemporaryPath = 255;
 } // namespace
 
 std::string TemporaryPath() {
-    std::error_code error;
-    const std::filesystem::path native = std::filesystem::temp_directory_path(error);
-    if (error) {
-        throw FileError(error, "");
-    }
-    return DocumentPath(native).substr(0, LongestTemporaryPath);
+    return DocumentPath(PlatformTemporaryFolder()).substr(0, LongestTemporaryPath);
 }
 
 std::string BuildFolder() {
@@ -26,7 +21,10 @@ std::string BuildFolder() {
 }
 
 void EnsureBuildFolder() {
-    if (const auto folder = FindNativePath(WithBackslash(TemporaryPath()) + "TAVMOORBuild")) {
+    const auto temporary = FindDocumentPath(PlatformTemporaryFolder());
+    const auto folder =
+        temporary ? FindNativePath(WithBackslash(*temporary) + "TAVMOORBuild") : std::nullopt;
+    if (folder) {
         PlatformMakePrivateFolder(*folder);
     }
 }

@@ -11,7 +11,9 @@ namespace tavmoor {
 inline constexpr std::array<std::int32_t, 7> FixedButtonId{0,       1093303, 4399733, 2133823,
                                                            5093223, 7093523, 9493723};
 
-/// The system's folder for temporary files, in document form; at most 255 characters.
+/// The system's folder for temporary files, in document form; at most 255 characters. Whether it
+/// exists is not asked.
+/// @throws RuntimeError 52 when the document cannot say it
 std::string TemporaryPath();
 
 /// The folder in which a build works, with a backslash at its end.

@@ -1,9 +1,15 @@
 #include "core/build_folder_platform.h"
 
+#include <cstdlib>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace tavmoor {
+
+std::filesystem::path PlatformTemporaryFolder() {
+    const char* folder = std::getenv("TMPDIR");
+    return folder != nullptr && *folder != '\0' ? folder : "/tmp";
+}
 
 void PlatformMakePrivateFolder(const std::filesystem::path& folder) {
     mkdir(folder.c_str(), 0700);
@@ -19,7 +25,8 @@ FolderOwner PlatformFolderOwner(const std::filesystem::path& folder) {
         return FolderOwner::Missing;
     }
     const bool own = S_ISDIR(entry.st_mode) && entry.st_uid == geteuid();
-    return own ? FolderOwner::User : FolderOwner::Other;
+    const bool shared = (entry.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+    return own && !shared ? FolderOwner::User : FolderOwner::Other;
 }
 
 } // namespace tavmoor

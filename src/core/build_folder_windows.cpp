@@ -1,6 +1,15 @@
 #include "core/build_folder_platform.h"
 
+#include <array>
+#include <windows.h>
+
 namespace tavmoor {
+
+std::filesystem::path PlatformTemporaryFolder() {
+    std::array<wchar_t, MAX_PATH + 1> path{};
+    const DWORD length = GetTempPathW(static_cast<DWORD>(path.size()), path.data());
+    return std::wstring(path.data(), length <= path.size() ? length : 0);
+}
 
 void PlatformMakePrivateFolder(const std::filesystem::path& folder) {
     std::error_code error;

@@ -27,6 +27,9 @@ std::string DocumentPath(const std::filesystem::path& nativePath);
 /// As DocumentPath, but nothing for a path that the document cannot say.
 std::optional<std::string> FindDocumentPath(const std::filesystem::path& nativePath);
 
+/// True when two document paths are equal but for case, as the target file system compares them.
+bool SamePath(std::string_view a, std::string_view b);
+
 /// True for a path that begins with a drive letter and a colon, or with a backslash.
 bool IsAbsoluteDocumentPath(std::string_view path);
 

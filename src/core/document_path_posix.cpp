@@ -7,6 +7,7 @@
 #include <clocale>
 #include <cwctype>
 #include <locale.h>
+#include <vector>
 
 namespace tavmoor {
 
@@ -21,9 +22,8 @@ std::string FoldCase(std::string_view utf8) {
     std::string folded;
     for (std::size_t position = 0; position < utf8.size();) {
         const char32_t character = NextUtf8(utf8, position);
-        const auto lower = unicode == nullptr
-                               ? std::towlower(static_cast<wint_t>(character))
-                               : towlower_l(static_cast<wint_t>(character), unicode);
+        const auto lower = unicode == nullptr ? std::towlower(static_cast<wint_t>(character))
+                                              : towlower_l(static_cast<wint_t>(character), unicode);
         AppendUtf8(folded, static_cast<char32_t>(lower));
     }
     return folded;
@@ -76,24 +76,41 @@ fs::path TakeStart(std::string_view& path) {
     return !path.empty() && IsSeparator(path.front()) ? fs::path("/") : fs::path();
 }
 
-} // namespace
-
-fs::path NativePath(std::string_view documentPath) {
-    std::string_view rest = documentPath;
-    fs::path native = TakeStart(rest);
+/// The parts of a path behind its start, in native form and without empty ones.
+std::vector<std::string> PartsOf(std::string_view rest, std::string_view whole) {
+    if (rest.find('\0') != std::string_view::npos) {
+        throw RuntimeError(ErrorNumber::BadFileName, whole);
+    }
+    std::vector<std::string> parts;
     while (!rest.empty()) {
         const auto end = std::find_if(rest.begin(), rest.end(), IsSeparator);
         const auto length = static_cast<std::size_t>(end - rest.begin());
         const std::string_view part = rest.substr(0, length);
         rest.remove_prefix(std::min(rest.size(), length + 1));
-        if (part.find('\0') != std::string_view::npos) {
-            throw RuntimeError(ErrorNumber::BadFileName, documentPath);
+        if (!part.empty() && part != ".") {
+            parts.push_back(SystemCodePage().ToUtf8(part));
         }
-        if (part == "..") {
-            native = native / "..";
-        } else if (!part.empty() && part != ".") {
-            native = Resolve(native, SystemCodePage().ToUtf8(part));
-        }
+    }
+    return parts;
+}
+
+} // namespace
+
+fs::path NativePath(std::string_view documentPath) {
+    std::string_view rest = documentPath;
+    const fs::path start = TakeStart(rest);
+    const std::vector<std::string> parts = PartsOf(rest, documentPath);
+    std::string exact = start.native();
+    for (const std::string& part : parts) {
+        exact.append(exact.empty() || exact == "/" ? "" : "/").append(part);
+    }
+    std::error_code error;
+    if (exact.empty() || fs::exists(fs::symlink_status(exact, error))) {
+        return exact; // as spelled, which is nearly always so
+    }
+    fs::path native = start;
+    for (const std::string& part : parts) {
+        native = part == ".." ? native / part : Resolve(native, part);
     }
     return native;
 }
@@ -110,6 +127,10 @@ std::string DocumentPath(const fs::path& nativePath) {
         text.bytes.insert(0, {RootDrive, ':'});
     }
     return text.bytes;
+}
+
+bool SamePath(std::string_view a, std::string_view b) {
+    return FoldCase(SystemCodePage().ToUtf8(a)) == FoldCase(SystemCodePage().ToUtf8(b));
 }
 
 } // namespace tavmoor

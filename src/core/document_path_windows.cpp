@@ -4,10 +4,25 @@
 #include "core/runtime_error.h"
 
 #include <algorithm>
+#include <system_error>
+#include <windows.h>
 
 namespace tavmoor {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// A name may hold half a pair of UTF-16, which no other encoding can say.
+std::u8string Utf8Of(const fs::path& path) {
+    try {
+        return path.u8string();
+    } catch (const std::system_error&) {
+        throw RuntimeError(ErrorNumber::BadFileName, "");
+    }
+}
+
+} // namespace
 
 fs::path NativePath(std::string_view documentPath) {
     if (documentPath.find('\0') != std::string_view::npos) {
@@ -23,7 +38,7 @@ fs::path NativePath(std::string_view documentPath) {
 }
 
 std::string DocumentPath(const fs::path& nativePath) {
-    const std::u8string utf8 = nativePath.u8string();
+    const std::u8string utf8 = Utf8Of(nativePath);
     CodePageText text =
         SystemCodePage().FromUtf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
     if (!text.unplaced.empty()) {
@@ -31,6 +46,12 @@ std::string DocumentPath(const fs::path& nativePath) {
     }
     std::replace(text.bytes.begin(), text.bytes.end(), '/', '\\');
     return text.bytes;
+}
+
+bool SamePath(std::string_view a, std::string_view b) {
+    const std::wstring left = NativePath(a).wstring();
+    const std::wstring right = NativePath(b).wstring();
+    return CompareStringOrdinal(left.c_str(), -1, right.c_str(), -1, TRUE) == CSTR_EQUAL;
 }
 
 } // namespace tavmoor

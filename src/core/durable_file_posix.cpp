@@ -37,6 +37,16 @@ mode_t ModeOf(const fs::path& target) {
     return 0666U & ~mask;
 }
 
+/// Where a link at the target leads in the end, also when nothing lies there yet.
+fs::path FollowLinks(fs::path target) {
+    constexpr int most = 40; // as the system itself follows
+    std::error_code error;
+    for (int i = 0; i < most && fs::is_symlink(fs::symlink_status(target, error)); ++i) {
+        target = target.parent_path() / fs::read_symlink(target, error);
+    }
+    return target;
+}
+
 std::error_code FillAndFlush(int file, mode_t mode, std::string_view bytes) {
     if (const std::error_code error = WriteAll(file, bytes)) {
         return error;
@@ -50,7 +60,8 @@ std::error_code FillAndFlush(int file, mode_t mode, std::string_view bytes) {
 /// The rename itself is on the disk only once the folder is. Some file systems cannot flush a
 /// folder; the file is whole all the same, so a failure here is none of the save.
 void FlushFolderIgnoringErrors(const fs::path& folder) {
-    const int handle = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int handle =
+        open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle >= 0) {
         fsync(handle);
         close(handle);
@@ -60,14 +71,18 @@ void FlushFolderIgnoringErrors(const fs::path& folder) {
 } // namespace
 
 std::error_code ReplaceFileDurably(const fs::path& target, std::string_view bytes) {
-    std::error_code error;
-    const fs::path real = fs::is_symlink(target, error) ? fs::weakly_canonical(target, error) : target;
-    std::string fresh = real.string() + ".XXXXXX";
+    const fs::path real = FollowLinks(target);
+    std::error_code missing;
+    if (fs::exists(real, missing) && !fs::is_regular_file(real, missing)) {
+        return std::make_error_code(std::errc::permission_denied); // a device or a pipe stays one
+    }
+    // Not made from the target's name, which may be as long as names can be.
+    std::string fresh = (real.parent_path() / ".tavmoor-XXXXXX").string();
     const int file = mkostemp(fresh.data(), O_CLOEXEC);
     if (file < 0) {
         return LastError();
     }
-    error = FillAndFlush(file, ModeOf(real), bytes);
+    std::error_code error = FillAndFlush(file, ModeOf(real), bytes);
     if (close(file) != 0 && !error) {
         error = LastError();
     }

@@ -23,10 +23,13 @@ struct FieldAccess {
 
 namespace detail {
 
-template <typename T> struct IsTable : std::false_type {};
-template <typename T, std::size_t N> struct IsTable<std::array<T, N>> : std::true_type {};
+template <typename T>
+struct IsTable : std::false_type {};
+template <typename T, std::size_t N>
+struct IsTable<std::array<T, N>> : std::true_type {};
 
-template <typename Object> auto& Row(Object& object, std::size_t row) {
+template <typename Object>
+auto& Row(Object& object, std::size_t row) {
     if constexpr (IsTable<std::remove_const_t<Object>>::value) {
         return object[row];
     } else {

@@ -81,7 +81,8 @@ struct FieldSpec {
 
 private:
     // Stands before its callers: a constant expression can only call a template that is complete.
-    template <typename Change> [[nodiscard]] constexpr FieldSpec With(Change change) const {
+    template <typename Change>
+    [[nodiscard]] constexpr FieldSpec With(Change change) const {
         FieldSpec changed = *this;
         change(changed);
         return changed;
@@ -98,7 +99,10 @@ public:
         return With([](FieldSpec& f) { f.resetWithObjects = true; });
     }
     [[nodiscard]] constexpr FieldSpec Flag(FlagForm form, FlagTest test = FlagTest::Exact) const {
-        return With([&](FieldSpec& f) { f.flagForm = form; f.flagTest = test; });
+        return With([&](FieldSpec& f) {
+            f.flagForm = form;
+            f.flagTest = test;
+        });
     }
     [[nodiscard]] constexpr FieldSpec ConfigurationFlag(FlagForm form) const {
         return With([&](FieldSpec& f) { f.configurationFlagForm = form; });
@@ -107,7 +111,10 @@ public:
         return With([&](FieldSpec& f) { f.textForm = form; });
     }
     [[nodiscard]] constexpr FieldSpec Encoded() const {
-        return With([](FieldSpec& f) { f.textForm = TextForm::Encoded; f.decoded = true; });
+        return With([](FieldSpec& f) {
+            f.textForm = TextForm::Encoded;
+            f.decoded = true;
+        });
     }
     [[nodiscard]] constexpr FieldSpec Decoded() const {
         return With([](FieldSpec& f) { f.decoded = true; });
@@ -123,7 +130,10 @@ public:
         return With([](FieldSpec& f) { f.onEmpty = OnEmpty::Keep; });
     }
     [[nodiscard]] constexpr FieldSpec EmptyGives(std::string_view value) const {
-        return With([&](FieldSpec& f) { f.onEmpty = OnEmpty::Fallback; f.fallback = value; });
+        return With([&](FieldSpec& f) {
+            f.onEmpty = OnEmpty::Fallback;
+            f.fallback = value;
+        });
     }
     [[nodiscard]] constexpr FieldSpec ProgramFolder() const {
         return With([](FieldSpec& f) { f.expandsProgramFolder = true; });

@@ -11,12 +11,18 @@ using X = TextObject;
 using V = VideoObject;
 using R = PictureRatios;
 
-template <auto Member> constexpr FieldAccess Canvas = At<&D::NapredniSabloni, Member>;
-template <auto Member> constexpr FieldAccess Fixed = At<&D::NapredniSabloni, &N::Tekst, Member>;
-template <auto Member> constexpr FieldAccess Button = At<&D::NapredniSabloni, &N::Dugme, Member>;
-template <auto Member> constexpr FieldAccess Text = At<&D::ObjTekst, Member>;
-template <auto Member> constexpr FieldAccess Film = At<&D::Video, Member>;
-template <auto Member> constexpr FieldAccess Ratio = At<&D::Ratios, Member>;
+template <auto Member>
+constexpr FieldAccess Canvas = At<&D::NapredniSabloni, Member>;
+template <auto Member>
+constexpr FieldAccess Fixed = At<&D::NapredniSabloni, &N::Tekst, Member>;
+template <auto Member>
+constexpr FieldAccess Button = At<&D::NapredniSabloni, &N::Dugme, Member>;
+template <auto Member>
+constexpr FieldAccess Text = At<&D::ObjTekst, Member>;
+template <auto Member>
+constexpr FieldAccess Film = At<&D::Video, Member>;
+template <auto Member>
+constexpr FieldAccess Ratio = At<&D::Ratios, Member>;
 
 constexpr FieldSpec Position(std::string_view key, FieldAccess access) {
     return Field(key, access).EmptyGives("0");

@@ -9,11 +9,16 @@ using L = CommandLook;
 using F = FixedCommand;
 using C = CommandEntry;
 
-template <auto Member> constexpr FieldAccess Look = At<&D::IzvrsneKomande, Member>;
-template <auto Member> constexpr FieldAccess Fixed = At<&D::IzvrsneKomande, &L::Komande, Member>;
-template <auto Member> constexpr FieldAccess Description = At<&D::OpisKomandi, Member>;
-template <auto Member> constexpr FieldAccess Additional = At<&D::DodatneKomande, Member>;
-template <auto Member> constexpr FieldAccess MenuTitle = At<&D::MenuTitles, Member>;
+template <auto Member>
+constexpr FieldAccess Look = At<&D::IzvrsneKomande, Member>;
+template <auto Member>
+constexpr FieldAccess Fixed = At<&D::IzvrsneKomande, &L::Komande, Member>;
+template <auto Member>
+constexpr FieldAccess Description = At<&D::OpisKomandi, Member>;
+template <auto Member>
+constexpr FieldAccess Additional = At<&D::DodatneKomande, Member>;
+template <auto Member>
+constexpr FieldAccess MenuTitle = At<&D::MenuTitles, Member>;
 
 constexpr FieldSpec CaptionFields[] = {
     Field("Izlaz", Look<&L::Izlaz>).New("").Text(TextForm::ExitCaption).Decoded(),

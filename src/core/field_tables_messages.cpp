@@ -8,8 +8,10 @@ using D = ProjectDocument;
 using M = StartMessageSpec;
 using X = ExpirationSpec;
 
-template <auto Member> constexpr FieldAccess Message = At<&D::Poruke, Member>;
-template <auto Member> constexpr FieldAccess Expiry = At<&D::Expiration, Member>;
+template <auto Member>
+constexpr FieldAccess Message = At<&D::Poruke, Member>;
+template <auto Member>
+constexpr FieldAccess Expiry = At<&D::Expiration, Member>;
 template <auto Member>
 constexpr FieldAccess Shortcut = At<&D::Precice, &ShortcutList::Precice, Member>;
 

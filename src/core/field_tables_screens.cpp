@@ -8,10 +8,14 @@ using D = ProjectDocument;
 using S = ScreenSpec;
 using E = EffectSet;
 
-template <auto Member> constexpr FieldAccess Sound = At<&D::Zvuk, Member>;
-template <auto Member> constexpr FieldAccess Splash = At<&D::Uvod, Member>;
-template <auto Member> constexpr FieldAccess Exit = At<&D::Izlaz, Member>;
-template <auto Member> constexpr FieldAccess Effect = At<&D::Efekti, Member>;
+template <auto Member>
+constexpr FieldAccess Sound = At<&D::Zvuk, Member>;
+template <auto Member>
+constexpr FieldAccess Splash = At<&D::Uvod, Member>;
+template <auto Member>
+constexpr FieldAccess Exit = At<&D::Izlaz, Member>;
+template <auto Member>
+constexpr FieldAccess Effect = At<&D::Efekti, Member>;
 
 constexpr FieldSpec SoundFields[] = {
     Field("Fajl", Sound<&SoundSpec::Fajl>).New("").ProgramFolder().InPackage(5),
@@ -107,14 +111,15 @@ constexpr FieldSpec EffectFields[] = {
 constexpr FieldBlock FontTable() {
     FieldBlock block = Table("Fontovi", FontFields, KeyForm::Suffix, 0, FontRows - 1);
     block.writeRows = WriteRows::UntilFirstEmpty;
-    block.readRows = ReadRows::UntilFirstEmpty;
+    block.readRows = ReadRows::FirstAnyway;
     block.inConfiguration = false; // the font files themselves travel in the package
     return block;
 }
 
 constexpr FieldBlock Blocks[] = {
-    Single("Zvuk", SoundFields), Single("Uvod", SplashFields),    Single("Izlaz", ExitFields),
-    FontTable(),                 Single("Efekti", EffectFields),
+    Single("Zvuk", SoundFields),    Single("Uvod", SplashFields),
+    Single("Izlaz", ExitFields),    FontTable(),
+    Single("Efekti", EffectFields),
 };
 
 } // namespace

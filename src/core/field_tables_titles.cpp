@@ -8,8 +8,10 @@ using D = ProjectDocument;
 using B = BaseSettings;
 using T = MainTexts;
 
-template <auto Member> constexpr FieldAccess Base = At<&D::OsnovnaPodesavanja, Member>;
-template <auto Member> constexpr FieldAccess Main = At<&D::OsnovniPodaci, Member>;
+template <auto Member>
+constexpr FieldAccess Base = At<&D::OsnovnaPodesavanja, Member>;
+template <auto Member>
+constexpr FieldAccess Main = At<&D::OsnovniPodaci, Member>;
 
 constexpr FieldSpec BaseFields[] = {
     Field("Glavni direktorijum", Base<&B::GlavniDirektorijum>).New("").Stands(Place::ProjectOnly),
@@ -73,10 +75,7 @@ constexpr FieldSpec MainFields[] = {
     Field("Velicina", Main<&T::Velicina>).New("").Size(),
     Field("Stil", Main<&T::Stil>).New(""),
     Field("Efekti", Main<&T::Efekti>).New(""),
-    Field("Vertekst", Main<&T::Vertekst>)
-        .New("")
-        .Text(TextForm::EncodedInConfiguration)
-        .Decoded(),
+    Field("Vertekst", Main<&T::Vertekst>).New("").Text(TextForm::EncodedInConfiguration).Decoded(),
     Field("Vertfont", Main<&T::Vertfont>).New(""),
     Field("Vertfontvelicina", Main<&T::Vertfontvelicina>).New("").Size(),
     Field("Vertfontboja", Main<&T::Vertfontboja>).New("0").Stands(Place::ConfigurationOnly),

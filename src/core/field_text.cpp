@@ -3,7 +3,7 @@
 #include "core/number_text.h"
 #include "core/value_encoding.h"
 
-#include <array>
+#include <algorithm>
 
 namespace tavmoor {
 
@@ -34,7 +34,10 @@ FlagForm FormIn(const FieldSpec& field, FieldFile file) {
 }
 
 void AppendEncoded(std::string& text, std::string_view value) {
-    if (value.find_first_of("\n\r&") == std::string_view::npos) {
+    const auto encoded = [](char character) {
+        return character == '\n' || character == '\r' || character == '&';
+    };
+    if (std::none_of(value.begin(), value.end(), encoded)) {
         text += value;
     } else {
         text += EncodeText(value);
@@ -97,7 +100,7 @@ void SetText(std::string& value, const FieldSpec& field, std::string_view text) 
         value = EmptyCaption;
     } else if (field.roundedOnRead) {
         value = RoundSize(text);
-    } else if (field.decoded) {
+    } else if (field.decoded && text.find("Chr$(") != std::string_view::npos) {
         value = DecodeText(text);
     } else {
         value = text;

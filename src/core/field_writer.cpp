@@ -15,7 +15,8 @@ bool IsSet(const FieldAccess& flag, const ProjectDocument& document) {
 class Writer {
 public:
     Writer(const ProjectDocument& document, FieldFile file) : document_(document), file_(file) {
-        text_.reserve(1U << 16U);
+        constexpr std::size_t largeProject = 1U << 18U;
+        text_.reserve(largeProject);
     }
 
     std::string Write() {
@@ -87,6 +88,7 @@ private:
     }
 
     void WriteRow(const FieldBlock& block, std::size_t row) {
+        suffix_ = KeySuffix(block.keyForm, row);
         for (const FieldSpec& field : block.fields) {
             if (!StandsAtSectionEnd(field)) {
                 WriteField({&block, &field, row});
@@ -117,8 +119,7 @@ private:
             WriteLine(field.lineWhenEmpty);
             return;
         }
-        AppendKey(text_, field.KeyIn(file_), place.block->keyForm, place.row);
-        text_ += '=';
+        text_.append(field.KeyIn(file_)).append(suffix_) += '=';
         AppendFieldText(text_, document_, place, file_);
         text_ += LineEnd;
     }
@@ -127,6 +128,7 @@ private:
     FieldFile file_;
     std::string text_;
     std::string_view section_;
+    std::string suffix_;
 };
 
 } // namespace

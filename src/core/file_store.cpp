@@ -2,6 +2,7 @@
 
 #include "core/document_path.h"
 #include "core/durable_file.h"
+#include "core/file_copy.h"
 #include "core/runtime_error.h"
 #include "core/text_case.h"
 
@@ -25,11 +26,6 @@ bool IsFolder(const fs::path& path) {
     return fs::is_directory(path, error);
 }
 
-bool CopyNative(const fs::path& from, const fs::path& to) {
-    std::error_code error;
-    return fs::copy_file(from, to, fs::copy_options::overwrite_existing, error) && !error;
-}
-
 } // namespace
 
 std::string ReadWholeFile(std::string_view path) {
@@ -38,22 +34,23 @@ std::string ReadWholeFile(std::string_view path) {
         throw RuntimeError(ErrorNumber::PathFileAccess, path);
     }
     errno = 0;
-    std::ifstream file(native, std::ios::binary);
+    std::ifstream file;
+    file.rdbuf()->pubsetbuf(nullptr, 0); // it is read in one go
+    file.open(native, std::ios::binary);
     if (!file) {
         throw FileError(StreamError(), path);
     }
-    std::string bytes;
+    // One byte more than the length tells the end; what is longer than it says is read on.
     std::error_code error;
     const auto length = fs::file_size(native, error);
-    if (!error) {
-        bytes.reserve(static_cast<std::size_t>(length));
-    }
-    constexpr std::size_t block = 1U << 16U;
+    std::string bytes;
+    std::size_t wanted = (error ? std::size_t{0} : static_cast<std::size_t>(length)) + 1;
     while (file) {
         const std::size_t old = bytes.size();
-        bytes.resize(old + block);
-        file.read(bytes.data() + old, block);
+        bytes.resize(old + wanted);
+        file.read(bytes.data() + old, static_cast<std::streamsize>(wanted));
         bytes.resize(old + static_cast<std::size_t>(file.gcount()));
+        wanted = std::max<std::size_t>(bytes.size(), 1U << 12U);
     }
     if (file.bad()) {
         throw FileError(StreamError(), path);
@@ -79,12 +76,8 @@ void WriteFreshFile(std::string_view path, std::string_view bytes) {
 }
 
 std::uint64_t FileLength(std::string_view path) {
-    const fs::path native = NativePath(path);
-    if (IsFolder(native)) {
-        throw RuntimeError(ErrorNumber::PathFileAccess, path);
-    }
     std::error_code error;
-    const auto length = fs::file_size(native, error);
+    const auto length = fs::file_size(NativePath(path), error);
     if (error) {
         throw FileError(error, path);
     }
@@ -121,7 +114,7 @@ void DeleteFileIgnoringErrors(std::string_view path) {
 bool CopyFileIgnoringErrors(std::string_view from, std::string_view to) {
     const auto source = FindNativePath(from);
     const auto target = FindNativePath(to);
-    return source && target && CopyNative(*source, *target);
+    return source && target && !PlatformCopyFile(*source, *target);
 }
 
 bool MoveFileIgnoringErrors(std::string_view from, std::string_view to) {
@@ -137,7 +130,7 @@ bool MoveFileIgnoringErrors(std::string_view from, std::string_view to) {
             return true;
         }
     }
-    return CopyNative(*source, *target);
+    return !PlatformCopyFile(*source, *target);
 }
 
 std::vector<std::string> FileNamesIn(std::string_view folder, std::string_view extension) {

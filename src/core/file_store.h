@@ -17,7 +17,8 @@ std::string ReadWholeFile(std::string_view path);
 /// renamed over it. When that fails the old file stays as it was.
 void WriteWholeFile(std::string_view path, std::string_view bytes);
 
-/// Deletes what lies at `path` and writes a fresh file: for what a build can make again at any time.
+/// Deletes what lies at `path` and writes a fresh file: for what a build can make again at any
+/// time.
 void WriteFreshFile(std::string_view path, std::string_view bytes);
 
 /// The length of a file in bytes; RuntimeError 53 when there is none, 75 for a folder.

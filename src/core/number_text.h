@@ -1,5 +1,6 @@
 #pragma once
 
+#include <charconv>
 #include <cstdint>
 #include <limits>
 #include <optional>
@@ -17,7 +18,14 @@ std::optional<double> ParseNumber(std::string_view text);
 double RoundHalfToEven(double number);
 
 /// ParseNumber, rounded to a whole number; nothing when it lies outside the type.
-template <typename Integer> std::optional<Integer> ParseInteger(std::string_view text) {
+template <typename Integer>
+std::optional<Integer> ParseInteger(std::string_view text) {
+    Integer plain{};
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, plain);
+    if (error == std::errc() && stop == end) {
+        return plain; // as nearly every stored number is
+    }
     const auto number = ParseNumber(text);
     if (!number) {
         return std::nullopt;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace tavmoor {
@@ -28,12 +29,26 @@ public:
     /// treat each of its keys as missing.
     static ProfileFile Load(std::string_view path);
 
-    /// The value of a key, cut to MaximumValue characters; "" when there is none. The view lives as
-    /// long as this object.
-    [[nodiscard]] std::string_view Value(std::string_view section, std::string_view key) const;
+    /// One section, for look-ups of many keys in a row. Keys that are asked for in the order of the
+    /// file are found at once.
+    class Section {
+    public:
+        /// The value of a key, cut to MaximumValue characters; "" when there is none. The view
+        /// lives as long as the file object.
+        [[nodiscard]] std::string_view Value(std::string_view key);
 
-    /// As Value, but whole.
-    [[nodiscard]] std::string_view WholeValue(std::string_view section, std::string_view key) const;
+    private:
+        friend class ProfileFile;
+        Section(const ProfileFile& file, std::uint32_t number) : file_(&file), number_(number) {}
+
+        const ProfileFile* file_;
+        std::uint32_t number_;
+        std::size_t next_ = 0; ///< the record behind the one found last
+    };
+    [[nodiscard]] Section In(std::string_view section) const;
+
+    /// The value of a key as Section gives it.
+    [[nodiscard]] std::string_view Value(std::string_view section, std::string_view key) const;
 
     struct Entry {
         std::string_view section;
@@ -41,18 +56,35 @@ public:
         std::string_view value; ///< whole
     };
     /// All entries in the order of the file, duplicates included.
-    [[nodiscard]] const std::vector<Entry>& Entries() const noexcept { return entries_; }
+    [[nodiscard]] std::vector<Entry> Entries() const;
 
 private:
+    static constexpr std::uint32_t NoSection = UINT32_MAX;
+
+    /// An entry by its places in the text: small, since large blocks of memory are what costs most
+    /// when a project is opened.
+    struct Record {
+        std::uint32_t section; ///< number of the section
+        std::uint32_t key;
+        std::uint32_t keyLength;
+        std::uint32_t value;
+        std::uint32_t valueLength;
+        bool isFirst; ///< no earlier record has its section and key
+    };
+
     void ReadLines();
     void ReadLine(std::string_view line);
     void BuildIndex();
-    [[nodiscard]] const Entry* Find(std::string_view section, std::string_view key) const;
+    [[nodiscard]] std::string_view KeyOf(const Record& record) const;
+    [[nodiscard]] std::string_view ValueOf(const Record& record) const;
+    /// The number of the first record with that key, or the count of records.
+    [[nodiscard]] std::size_t Find(std::uint32_t section, std::string_view key) const;
 
     std::string text_;
-    std::string_view section_;
-    std::uint64_t sectionHash_;
-    std::vector<Entry> entries_;
+    std::vector<std::string_view> sectionNames_;              ///< as first spelled, by number
+    std::unordered_map<std::string, std::uint32_t> sections_; ///< by name in lower case
+    std::uint32_t section_ = 0;
+    std::vector<Record> records_;
     std::vector<std::uint64_t> hashes_;
     std::vector<std::uint32_t> slots_; ///< open addressing; an entry's number plus one, 0 is free
 };

@@ -14,12 +14,12 @@ namespace {
 constexpr std::string_view Section = "Settings";
 
 enum class SettingForm {
-    OnlyOneIsTrue,      ///< "1" or "0"; true only for "1"
-    OnlyZeroIsFalse,    ///< "1" or "0"; false only for "0"
-    OneOrEmptyIsTrue,   ///< "1" or "0"; true for "1" and for ""
-    OnlyTrueIsTrue,     ///< "True" or "False"
+    OnlyOneIsTrue,    ///< "1" or "0"; true only for "1"
+    OnlyZeroIsFalse,  ///< "1" or "0"; false only for "0"
+    OneOrEmptyIsTrue, ///< "1" or "0"; true for "1" and for ""
+    OnlyTrueIsTrue,   ///< "True" or "False"
     Text,
-    TextUnlessEmpty,    ///< no line when empty
+    TextUnlessEmpty, ///< no line when empty
     WrittenOnly,
 };
 

@@ -17,10 +17,10 @@ namespace tavmoor {
 /// A colour 0x00BBGGRR; with the high bit set a system colour.
 using ColorValue = std::int32_t;
 
-inline constexpr std::size_t FixedCommandRows = 7;       ///< used 1 to 6
+inline constexpr std::size_t FixedCommandRows = 7;        ///< used 1 to 6
 inline constexpr std::size_t AdditionalCommandRows = 101; ///< 0 to 100
-inline constexpr std::size_t FontRows = 21;              ///< 0 to 20
-inline constexpr std::size_t ShortcutRows = 51;          ///< 0 to 50
+inline constexpr std::size_t FontRows = 21;               ///< 0 to 20
+inline constexpr std::size_t ShortcutRows = 51;           ///< 0 to 50
 inline constexpr std::size_t FixedTextRows = 4; ///< logo text, main title, description title, text
 inline constexpr std::size_t ButtonRows = 101;  ///< 0 to 100
 inline constexpr std::size_t TextRows = 101;    ///< 0 to 100, of which the files hold 0 to 99
@@ -303,11 +303,11 @@ struct VideoObject {
 
 /// What belongs to the open project and stands in no file.
 struct WorkingValues {
-    std::string ProjectPath;         ///< "" while never saved
-    std::string Recent;              ///< second copy of the path; feeds the file dialogs
-    std::string LastProjectFolder;   ///< initial folder of the save dialog
-    std::string TemplateRuntimePath; ///< the template's "template.tavexe"
-    std::string TemplateName;        ///< EditorTemplateName for the editor's template
+    std::string ProjectPath;               ///< "" while never saved
+    std::string Recent;                    ///< second copy of the path; feeds the file dialogs
+    std::string LastProjectFolder;         ///< initial folder of the save dialog
+    std::string TemplateRuntimePath;       ///< the template's "template.tavexe"
+    std::string TemplateName;              ///< EditorTemplateName for the editor's template
     std::vector<std::string> listafajlova; ///< paths of the package's files, in package order
     std::int16_t FixedCommandCount = 0;
 };

@@ -1,7 +1,6 @@
 #include "core/project_fields.h"
 
 #include "core/field_tables.h"
-#include "core/number_text.h"
 #include "core/text_case.h"
 
 #include <algorithm>
@@ -72,7 +71,7 @@ void AppendPackageFiles(std::vector<std::string>& paths, const FieldBlock& block
     for (std::size_t row = block.first; row <= block.packageLast; ++row) {
         const std::string& path = *std::get<const std::string*>(field.access.read(document, row));
         if (path.empty()) {
-            if (block.readRows == ReadRows::UntilFirstEmpty) {
+            if (block.writeRows == WriteRows::UntilFirstEmpty) {
                 return;
             }
             continue;
@@ -121,18 +120,16 @@ std::optional<FieldPlace> FindField(std::string_view section, std::string_view k
     return std::nullopt;
 }
 
-void AppendKey(std::string& text, std::string_view key, KeyForm form, std::size_t row) {
-    text += key;
+std::string KeySuffix(KeyForm form, std::size_t row) {
     if (form == KeyForm::Single) {
-        return;
+        return {};
     }
-    if (form == KeyForm::Parentheses) {
-        text += '(';
-    }
-    AppendInteger(text, static_cast<std::int64_t>(row));
-    if (form == KeyForm::Parentheses) {
-        text += ')';
-    }
+    std::string number = std::to_string(row);
+    return form == KeyForm::Suffix ? number : "(" + number + ")";
+}
+
+std::string KeyOf(const FieldPlace& place) {
+    return std::string(place.field->key) + KeySuffix(place.block->keyForm, place.row);
 }
 
 std::vector<std::string> PackageFilesOf(const ProjectDocument& document, int firstOrder,

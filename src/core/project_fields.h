@@ -25,6 +25,7 @@ enum class WriteRows : std::uint8_t {
 enum class ReadRows : std::uint8_t {
     All,
     UntilFirstEmpty, ///< stops at the first row whose first field is ""
+    FirstAnyway,     ///< the same, but row 0 is passed over when it is empty
     SkipUntitled,    ///< passes over the rest of a row whose first field is ""
 };
 
@@ -67,8 +68,11 @@ struct FieldPlace {
 /// that bind controls to fields, and tools.
 std::optional<FieldPlace> FindField(std::string_view section, std::string_view key);
 
-/// Appends the key of a field as it stands in a file, with the number of its row.
-void AppendKey(std::string& text, std::string_view key, KeyForm form, std::size_t row);
+/// What stands behind the name in the keys of a row: "", "3" or "(3)".
+std::string KeySuffix(KeyForm form, std::size_t row);
+
+/// The key of a field as it stands in the project file, with the number of its row.
+std::string KeyOf(const FieldPlace& place);
 
 /// The paths of all package files that the document names, in package order, with empty ones and
 /// duplicates left out, from the files of `firstOrder` to those of `lastOrder`.

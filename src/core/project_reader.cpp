@@ -6,6 +6,7 @@
 #include "core/value_encoding.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace tavmoor {
 
@@ -16,8 +17,8 @@ class Reader {
 public:
     Reader(const ProfileFile& file, ProjectDocument& document, const std::string& programFolder,
            ProjectReaderListener& listener, FieldFile kind)
-        : file_(file), document_(document), programFolder_(programFolder), listener_(listener),
-          kind_(kind) {}
+        : file_(file), section_(file.In("")), document_(document), programFolder_(programFolder),
+          listener_(listener), kind_(kind) {}
 
     void Read() {
         for (const FieldBlock& block : ProjectBlocks()) {
@@ -29,29 +30,26 @@ public:
 
 private:
     void ReadBlock(const FieldBlock& block) {
+        section_ = file_.In(block.section);
         for (std::size_t row = block.first; row <= block.last; ++row) {
-            const bool empty = FirstValue(block, row).empty();
-            if (empty && block.readRows == ReadRows::UntilFirstEmpty) {
-                return;
+            suffix_ = KeySuffix(block.keyForm, row);
+            std::size_t count = block.fields.size();
+            if (block.readRows != ReadRows::All && Value(block.fields.front()).empty()) {
+                const bool skipped = block.readRows == ReadRows::FirstAnyway && row == 0;
+                if (block.readRows != ReadRows::SkipUntitled && !skipped) {
+                    return;
+                }
+                count = skipped ? 0 : 1;
             }
-            const std::size_t count = empty && block.readRows == ReadRows::SkipUntitled
-                                          ? std::size_t{1}
-                                          : block.fields.size();
             for (const FieldSpec& field : block.fields.first(count)) {
                 ReadField({&block, &field, row});
             }
         }
     }
 
-    std::string_view FirstValue(const FieldBlock& block, std::size_t row) {
-        return block.readRows == ReadRows::All ? std::string_view()
-                                               : Value({&block, &block.fields.front(), row});
-    }
-
-    std::string_view Value(const FieldPlace& place) {
-        key_.clear();
-        AppendKey(key_, place.field->KeyIn(kind_), place.block->keyForm, place.row);
-        return file_.Value(place.block->section, key_);
+    std::string_view Value(const FieldSpec& field) {
+        key_.assign(field.KeyIn(kind_)).append(suffix_);
+        return section_.Value(key_);
     }
 
     void ReadField(const FieldPlace& place) {
@@ -59,7 +57,7 @@ private:
         if (field.writeOnly || !field.StandsIn(kind_)) {
             return;
         }
-        const std::string_view value = Value(place);
+        const std::string_view value = Value(field);
         if (kind_ == FieldFile::Project && field.expandsProgramFolder) {
             AssignFieldText(document_, place, ExpandProgramFolder(value, programFolder_), kind_);
         } else {
@@ -102,8 +100,17 @@ private:
         UpdateTemplateRuntimePath(document_);
     }
 
+    /// Many buttons share a picture; each is looked at once.
+    bool IsUsablePicture(const std::string& path) {
+        const auto [known, fresh] = pictures_.emplace(path, false);
+        if (fresh) {
+            known->second = FileLengthOrZero(path) > 0;
+        }
+        return known->second;
+    }
+
     void CheckButtonPicture(std::string& path) {
-        if (path.empty() || FileLengthOrZero(path) > 0) {
+        if (path.empty() || IsUsablePicture(path)) {
             return;
         }
         listener_.ShowMessage("The file " + path + " used in this project could not be found!",
@@ -112,11 +119,14 @@ private:
     }
 
     const ProfileFile& file_;
+    ProfileFile::Section section_;
     ProjectDocument& document_;
     const std::string& programFolder_;
     ProjectReaderListener& listener_;
     FieldFile kind_;
+    std::string suffix_;
     std::string key_;
+    std::unordered_map<std::string, bool> pictures_; ///< whether a button picture can be used
 };
 
 std::int16_t CountFixedCommands(const ProjectDocument& document) {
@@ -157,14 +167,13 @@ void ReadRuntimeConfiguration(const ProfileFile& file, ProjectDocument& document
 
 std::bitset<ButtonRows> ButtonRowsIn(const ProfileFile& file) {
     const FieldBlock& block = ButtonBlock();
+    ProfileFile::Section section = file.In(block.section);
     std::bitset<ButtonRows> rows;
-    std::string key;
     for (std::size_t row = block.first; row <= block.last; ++row) {
-        rows[row] = std::any_of(
-            block.fields.begin(), block.fields.end(), [&](const FieldSpec& field) {
-                key.clear();
-                AppendKey(key, field.key, block.keyForm, row);
-                return !file.Value(block.section, key).empty();
+        const std::string suffix = KeySuffix(block.keyForm, row);
+        rows[row] =
+            std::any_of(block.fields.begin(), block.fields.end(), [&](const FieldSpec& field) {
+                return !section.Value(std::string(field.key) + suffix).empty();
             });
     }
     return rows;

@@ -6,7 +6,8 @@ namespace tavmoor {
 
 namespace {
 
-template <typename Filter> void ResetFields(ProjectDocument& document, Filter wanted) {
+template <typename Filter>
+void ResetFields(ProjectDocument& document, Filter wanted) {
     for (const FieldBlock& block : ProjectBlocks()) {
         for (std::size_t row = block.resetFirst; row <= block.resetLast; ++row) {
             for (const FieldSpec& field : block.fields) {

@@ -55,7 +55,7 @@ bool SaveProject(ProjectDocument& document, std::string_view target,
         }
     } else if (!HasProjectEnding(working.ProjectPath)) {
         working.ProjectPath += Extension;
-        working.Recent = working.ProjectPath;
+        working.Recent += Extension;
     }
     WriteProject(document, working.ProjectPath);
     dialog.LetEventsRun();

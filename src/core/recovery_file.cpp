@@ -6,17 +6,18 @@
 #include "core/project_writer.h"
 #include "core/runtime_error.h"
 
+#include <optional>
+
 namespace tavmoor {
 
 namespace {
 
 constexpr std::string_view Ending = ".recovered.tavp";
-constexpr int MostFiles = 1000;
 
 /// A path at which nothing lies yet: an older recovery file may hold the only copy of some work.
 std::string FreePath(const std::string& start) {
     std::string path = start + std::string(Ending);
-    for (int number = 2; FileExists(path) && number < MostFiles; ++number) {
+    for (int number = 2; FileExists(path); ++number) {
         path = start + "-" + std::to_string(number) + std::string(Ending);
     }
     return path;
@@ -32,18 +33,31 @@ std::string UnsavedStart() {
     return WithBackslash(folder) + "unsaved";
 }
 
+std::string WriteAt(const std::string& start, const ProjectDocument& document) {
+    std::string path = FreePath(start);
+    WriteProject(document, path);
+    return path;
+}
+
+/// Nothing where the project's folder cannot be written, which may be the very error that ends the
+/// program.
+std::optional<std::string> WriteBesideProject(const ProjectDocument& document) {
+    std::string start = document.Working.ProjectPath;
+    if (start.ends_with(".tavp")) {
+        start.resize(start.size() - 5);
+    }
+    try {
+        return start.empty() ? std::nullopt : std::optional(WriteAt(start, document));
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 std::string WriteRecoveryFile(const ProjectDocument& document) {
-    std::string start = document.Working.ProjectPath;
-    if (start.empty()) {
-        start = UnsavedStart();
-    } else if (start.ends_with(".tavp")) {
-        start.resize(start.size() - 5);
-    }
-    const std::string path = FreePath(start);
-    WriteProject(document, path);
-    return path;
+    const auto path = WriteBesideProject(document);
+    return path ? *path : WriteAt(UnsavedStart(), document);
 }
 
 } // namespace tavmoor

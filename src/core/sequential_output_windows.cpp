@@ -19,9 +19,8 @@ HANDLE HandleOf(std::intptr_t file) {
 std::error_code SequentialOutput::Platform::Open(const std::filesystem::path& path,
                                                  std::uint64_t /*expectedSize*/) {
     // Space asked for in advance would have to be filled with zeros first.
-    file_ = reinterpret_cast<std::intptr_t>(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr,
-                                                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                                                        nullptr));
+    file_ = reinterpret_cast<std::intptr_t>(CreateFileW(
+        path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     return file_ == NoFile ? LastError() : std::error_code();
 }
 

@@ -47,10 +47,8 @@ std::string EncodeText(std::string_view text) {
 
 std::string DecodeText(std::string_view text) {
     std::string decoded(text);
-    if (decoded.find("Chr$(") != std::string::npos) {
-        for (const Token& token : Tokens) {
-            ReplaceAll(decoded, token.text, token.character);
-        }
+    for (const Token& token : Tokens) {
+        ReplaceAll(decoded, token.text, token.character);
     }
     return decoded;
 }

@@ -104,7 +104,7 @@ std::vector<TemplateInfo> NamedTemplates(const TemplateCatalogue& catalogue) {
 std::optional<std::size_t> RowOfTemplate(const TemplateCatalogue& catalogue,
                                          std::string_view descriptorPath) {
     for (std::size_t row = 0; row < catalogue.paths.size(); ++row) {
-        if (EqualWithoutCase(catalogue.paths[row], descriptorPath)) {
+        if (SamePath(catalogue.paths[row], descriptorPath)) {
             return row;
         }
     }

@@ -16,8 +16,7 @@ std::string TemplateDisplayName(std::string_view descriptorPath) {
 }
 
 bool TemplateAcceptsEditor(std::string_view descriptorPath) {
-    const std::string enable =
-        ReadProfileValue(descriptorPath, "Additional settings", "Enable");
+    const std::string enable = ReadProfileValue(descriptorPath, "Additional settings", "Enable");
     return enable.substr(0, LongestEnable) == "1";
 }
 

@@ -2,9 +2,10 @@
 
 #include "core/field_writer.h"
 #include "core/project_reset.h"
+#include "support/field_check.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
+#include <regex>
 
 namespace tavmoor {
 
@@ -12,14 +13,11 @@ namespace {
 
 class ProjectReaderTest : public testing::Test, protected ProjectReaderListener {
 protected:
-    /// Reads lines parted by '|' over the document as it stands.
-    void Read(std::string text) {
-        for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at)) {
-            text.replace(at, 1, "\r\n");
-        }
+    void Read(const std::string& lines) {
         events_.clear();
-        ReadProjectFrom(ProfileFile(text), d, folder_.Document(), *this);
+        ReadProjectFrom(ProfileFile(test::Lines(lines)), d, folder_.Document(), *this);
     }
+    void Expect(const std::string& lines) { test::ExpectFields(d, lines); }
 
     void ShowMessage(std::string_view text, std::string_view title) override {
         events_.push_back(std::string(title) + "/" + std::string(text));
@@ -32,10 +30,10 @@ protected:
         events_.push_back("title " + std::string(path));
     }
 
+    test::TemporaryFolder folder_;
     std::unique_ptr<ProjectDocument> document_ =
         std::make_unique<ProjectDocument>(NewProjectDocument());
     ProjectDocument& d = *document_;
-    test::TemporaryFolder folder_;
     std::vector<std::string> events_;
     std::vector<std::string> fonts_;
     std::string icon_;
@@ -56,13 +54,10 @@ TEST_F(ProjectReaderTest, AnEmptyFileLeavesANewProjectButForItsFallbacks) {
     for (FixedText& text : expected->NapredniSabloni.Tekst) {
         text.TekstBackgroundColor = "0";
     }
-    for (ProjectDocument* document : {&d, expected.get()}) { // shows what flags hide
-        document->IzvrsneKomande.Addshadow = document->OsnovnaPodesavanja.Backscrpredpos = true;
-        for (ButtonObject& button : document->NapredniSabloni.Dugme) {
-            button.DugmeExists = true;
-        }
-        for (TextObject& text : document->ObjTekst) {
-            text.TekstBoxVisible = true;
+    for (ProjectDocument* shown : {&d, expected.get()}) { // what flags hide
+        shown->IzvrsneKomande.Addshadow = shown->OsnovnaPodesavanja.Backscrpredpos = true;
+        for (std::size_t i = 0; i < ButtonRows; ++i) {
+            shown->NapredniSabloni.Dugme[i].DugmeExists = shown->ObjTekst[i].TekstBoxVisible = true;
         }
     }
     for (const FieldFile file : {FieldFile::Project, FieldFile::Configuration}) {
@@ -70,22 +65,23 @@ TEST_F(ProjectReaderTest, AnEmptyFileLeavesANewProjectButForItsFallbacks) {
     }
 }
 
-TEST_F(ProjectReaderTest, ValuesThatDoNotConvertLeaveTheField) {
-    d.OsnovnaPodesavanja.PodesiSirinu = 7;
-    d.NapredniSabloni.SlikaLogoX = 8;
+TEST_F(ProjectReaderTest, ValuesThatSayNothingLeaveTheField) {
+    d.OsnovnaPodesavanja.PodesiSirinu = d.NapredniSabloni.SlikaLogoX = d.Efekti.emainenter = 7;
     d.NapredniSabloni.SlikaLogoY = 9;
     d.Video[1].Volume = 3;
+    d.Expiration.Enabled = d.Precice.Enabled = true;
+    d.Poruke.Naslov = d.OsnovniPodaci.GlavninaslovFont = "kept";
     Read("[Osnovna podesavanja]|Boja prozora=red|PodesiSirinu=40000|[Zvuk]|Ponovi=x|Pauza=0|"
-         "[Napredni sabloni]|SlikaLogoX=?|[Video]|VideoFajl1=a|Volume1=loud|videoTop1=12.5");
-    EXPECT_EQ(d.OsnovnaPodesavanja.BojaProzora, -2147483643);
-    EXPECT_EQ(d.OsnovnaPodesavanja.PodesiSirinu, 7);
-    EXPECT_EQ(d.Zvuk.Ponovi, 1);
-    EXPECT_EQ(d.Zvuk.Pauza, 1);
-    EXPECT_EQ(d.NapredniSabloni.SlikaLogoX, 8);
-    EXPECT_EQ(d.NapredniSabloni.SlikaLogoY, 0); // a missing one falls back
-    EXPECT_EQ(d.Video[1].Volume, 3);
-    EXPECT_EQ(d.Video[1].videoTop, 12);
-    EXPECT_EQ(d.Video[1].videoLeft, 300);
+         "[Napredni sabloni]|SlikaLogoX=?|[Video]|VideoFajl1=a|Volume1=loud|videoTop1=12.5|"
+         "[Expiration]|Enabled=False|[Precice]|Enabled=False|[Efekti]|emainenter=0|esplashenter=3|"
+         "eexitenter=-1|[Poruke]|Naslov=|Komanda1=|[ObjTekst]|TekstBoxVisible(0)=True|"
+         "TekstBoxFontSize(0)=8.5|TekstBoxX(99)=4|TekstBoxVisible(100)=True");
+    Expect("[Osnovna podesavanja]|Boja prozora=-2147483643|PodesiSirinu=7|[Zvuk]|Ponovi=1|Pauza=1|"
+           "[Napredni sabloni]|SlikaLogoX=7|SlikaLogoY=0|[Video]|Volume1=3|videoTop1=12|"
+           "videoLeft1=300|[Expiration]|Enabled=True|[Precice]|Enabled=True|[Efekti]|emainenter=7|"
+           "esplashenter=3|eexitenter=0|[Poruke]|Naslov=kept|Komanda1=-1|[Osnovni podaci]|"
+           "GlavninaslovFont=kept|[ObjTekst]|TekstBoxFontSize(0)=8|TekstBoxVisible(99)=False");
+    EXPECT_FALSE(d.ObjTekst[100].TekstBoxVisible);
 }
 
 TEST_F(ProjectReaderTest, FlagsAreTrueForTheirOwnFormAlone) {
@@ -95,30 +91,20 @@ TEST_F(ProjectReaderTest, FlagsAreTrueForTheirOwnFormAlone) {
          "[Uvod]|Prikazi=1|ClickThrough=1.0|Opcija=4|[Izlaz]|Prikazi=-1|ClickThroughExit=2|"
          "[Napredni sabloni]|DugmeBorderVisible(0)=false|DugmeBorderVisible(1)=False|"
          "TekstBackgroundStyle(0)=2|TekstBackgroundStyle(1)=1");
-    EXPECT_FALSE(d.OsnovnaPodesavanja.PodesiVelicinu);
-    EXPECT_FALSE(d.OsnovnaPodesavanja.CeoEkran);
-    EXPECT_TRUE(d.OsnovnaPodesavanja.Backscrpredpos);
-    EXPECT_FALSE(d.OsnovniPodaci.GlavniOpisBold);
-    EXPECT_TRUE(d.OsnovniPodaci.GlavniOpisItalic);
-    EXPECT_FALSE(d.OsnovniPodaci.Opisprovidan);
-    EXPECT_TRUE(d.IzvrsneKomande.Addshadow);
-    EXPECT_TRUE(d.Zvuk.Akcija);
-    EXPECT_FALSE(d.Zvuk.Signal);
-    EXPECT_TRUE(d.Uvod.Prikazi);
-    EXPECT_TRUE(d.Uvod.ClickThrough);
-    EXPECT_EQ(d.Uvod.Opcija, 0);
-    EXPECT_FALSE(d.Izlaz.Prikazi);
-    EXPECT_FALSE(d.Izlaz.ClickThrough);
-    EXPECT_TRUE(d.NapredniSabloni.Dugme[0].DugmeBorderVisible);
-    EXPECT_FALSE(d.NapredniSabloni.Dugme[1].DugmeBorderVisible);
-    EXPECT_EQ(d.NapredniSabloni.Tekst[0].TekstBackgroundStyle, 0);
-    EXPECT_EQ(d.NapredniSabloni.Tekst[1].TekstBackgroundStyle, 1);
+    Expect("[Osnovna podesavanja]|PodesiVelicinu=Ne|CeoEkran=Ne|Backscrpredpos=Da|"
+           "[Osnovni podaci]|GlavniOpisBold=False|GlavniOpisItalic=True|Opis providan=0|"
+           "[Izvrsne komande]|Add shadow=1|[Zvuk]|Akcija=1|Signal=0|"
+           "[Uvod]|Prikazi=1|ClickThrough=1|Opcija=0|[Izlaz]|Prikazi=0|ClickThroughExit=0|Opcija=1|"
+           "[Napredni sabloni]|DugmeBorderVisible(0)=True|DugmeBorderVisible(1)=False|"
+           "DugmeBorderVisible(2)=True|TekstBackgroundStyle(0)=0|TekstBackgroundStyle(1)=1");
+    Read("[Zvuk]|Akcija=0");
+    Expect("[Zvuk]|Akcija=0");
 }
 
 TEST_F(ProjectReaderTest, TextsAreDecodedEvenWhereTheyAreWrittenPlain) {
-    Read("[Osnovni podaci]|Vertekst=aChr$(13)b|Vertfont=aChr$(13)b|"
-         "[Izvrsne komande]|Izlaz=aChr$(38)b|Boja pozadine  komandi=1|Velicina=8.5|"
-         "Opis2=t|Vrsta2=Send mail|Opis3=t|[Uvod]|Fontvelicina=8.5|[Menu titles]|TITLEMAIN=Chr$(38)");
+    Read("[Osnovni podaci]|Vertekst=aChr$(13)b|Vertfont=aChr$(13)b|[Izvrsne komande]|"
+         "Izlaz=aChr$(38)b|Boja pozadine  komandi=1|Velicina=8.5|Opis2=t|Vrsta2=Send mail|Opis3=t|"
+         "[Uvod]|Fontvelicina=8.5|[Menu titles]|TITLEMAIN=Chr$(38)");
     EXPECT_EQ(d.OsnovniPodaci.Vertekst, "a\rb");
     EXPECT_EQ(d.OsnovniPodaci.Vertfont, "aChr$(13)b");
     EXPECT_EQ(d.IzvrsneKomande.Izlaz, "a&b");
@@ -132,65 +118,27 @@ TEST_F(ProjectReaderTest, TextsAreDecodedEvenWhereTheyAreWrittenPlain) {
     EXPECT_EQ(d.OsnovniPodaci.Logotekst, std::string(1023, 'x'));
 }
 
-TEST_F(ProjectReaderTest, AdditionalCommandsMayHaveHoles) {
-    d.DodatneKomande[3] = {.addname = "old", .addtarget = "kept"};
+TEST_F(ProjectReaderTest, TablesMayHaveHolesAndListsNeverShrink) {
+    d.DodatneKomande[3].addname = d.DodatneKomande[3].addtarget = "old";
+    d.Fontovi[4] = d.Precice.Precice[1].Ime = "old";
     Read("[Dodatne komande]|addname2=#Empty#|addtarget2=two|addname4=#empty#|AddID4=-7|"
-         "addname100=last|addname101=beyond|addtarget3=three|addclose4=Chr$(38)");
+         "addname100=last|addname101=beyond|addtarget3=three|addclose4=Chr$(38)|"
+         "[Precice]|Ime0=a|Ime2=c|[Video]|VideoFajl0=z|VideoFajl1=a|VideoFajl3=c|"
+         "[Fontovi]|Font0=f0|Font1=f1|Font3=f3");
+    Expect("[Dodatne komande]|addtarget2=two|addname3=|addtarget3=old|addname4=#empty#|AddID4=-7|"
+           "addclose4=Chr$(38)|addname100=last|[Precice]|Ime0=a|Ime1=old|Ime2=|"
+           "[Video]|VideoFajl1=a|Volume1=20|VideoFajl3=|[Fontovi]|Font1=f1|Font3=|Font4=old");
     EXPECT_EQ(d.DodatneKomande[2].addname, "  ");
-    EXPECT_EQ(d.DodatneKomande[2].addtarget, "two");
-    EXPECT_EQ(d.DodatneKomande[3].addname, "");
-    EXPECT_EQ(d.DodatneKomande[3].addtarget, "kept");
-    EXPECT_EQ(d.DodatneKomande[4].addname, "#empty#");
-    EXPECT_EQ(d.DodatneKomande[4].AddID, -7);
-    EXPECT_EQ(d.DodatneKomande[4].addclose, "Chr$(38)");
-    EXPECT_EQ(d.DodatneKomande[100].addname, "last");
-}
-
-TEST_F(ProjectReaderTest, ListsEndAtTheirFirstGapAndNeverShrink) {
-    d.Fontovi[4] = "old font";
-    d.Precice.Precice[1].Ime = "old shortcut";
-    std::string text = "[Precice]|Ime0=a|Ime2=c|[Video]|VideoFajl0=z|VideoFajl1=a|VideoFajl3=c|"
-                       "[Fontovi]";
-    Read(text + "|Font0=f0|Font1=f1|Font3=f3");
-    EXPECT_EQ(d.Precice.Precice[0].Ime, "a");
-    EXPECT_EQ(d.Precice.Precice[1].Ime, "old shortcut");
-    EXPECT_EQ(d.Precice.Precice[2].Ime, "");
     EXPECT_EQ(d.Video[0].VideoFajl, "");
-    EXPECT_EQ(d.Video[1].Volume, 20);
-    EXPECT_EQ(d.Video[3].VideoFajl, "");
     EXPECT_EQ(fonts_, (std::vector<std::string>{"f0", "f1"}));
-    EXPECT_EQ(d.Fontovi[4], "old font");
+    std::string text = "[Fontovi]";
     for (int i = 0; i < 30; ++i) {
         text += "|Font" + std::to_string(i) + "=g" + std::to_string(i);
     }
     Read(text);
     EXPECT_EQ(d.Fontovi[20], "g20");
-}
-
-TEST_F(ProjectReaderTest, FontsBehindAMissingFirstOneAreRead) {
-    Read("[Fontovi]|Font1=f1|Font2=f2|Font4=f4");
-    EXPECT_EQ(fonts_, (std::vector<std::string>{"f1", "f2"}));
-    EXPECT_EQ(d.Fontovi[2], "f2");
-}
-
-TEST_F(ProjectReaderTest, SomeValuesAreTakenOnlyWhenTheySaySomething) {
-    d.Expiration.Enabled = d.Precice.Enabled = true;
-    d.Efekti.emainenter = 5;
-    d.Poruke.Naslov = d.OsnovniPodaci.GlavninaslovFont = "kept";
-    Read("[Expiration]|Enabled=False|[Precice]|Enabled=False|[Efekti]|emainenter=0|esplashenter=3|"
-         "eexitenter=-1|[Poruke]|Naslov=|Komanda1=|[ObjTekst]|TekstBoxVisible(0)=True|"
-         "TekstBoxFontSize(0)=8.5|TekstBoxX(99)=4|TekstBoxVisible(100)=True");
-    EXPECT_TRUE(d.Expiration.Enabled);
-    EXPECT_TRUE(d.Precice.Enabled);
-    EXPECT_EQ(d.Efekti.emainenter, 5);
-    EXPECT_EQ(d.Efekti.esplashenter, 3);
-    EXPECT_EQ(d.Efekti.eexitenter, 0);
-    EXPECT_EQ(d.Poruke.Naslov, "kept");
-    EXPECT_EQ(d.Poruke.Komanda1, -1);
-    EXPECT_EQ(d.OsnovniPodaci.GlavninaslovFont, "kept");
-    EXPECT_EQ(d.ObjTekst[0].TekstBoxFontSize, 8);
-    EXPECT_FALSE(d.ObjTekst[99].TekstBoxVisible);
-    EXPECT_FALSE(d.ObjTekst[100].TekstBoxVisible);
+    Read("[Fontovi]|Font1=h1|Font2=h2|Font4=h4"); // the first alone may be missing
+    Expect("[Fontovi]|Font0=g0|Font1=h1|Font2=h2|Font4=g4");
 }
 
 TEST_F(ProjectReaderTest, TemplatesAreBoundWithoutAWord) {
@@ -206,36 +154,34 @@ TEST_F(ProjectReaderTest, TemplatesAreBoundWithoutAWord) {
 }
 
 TEST_F(ProjectReaderTest, OnlySixKeysKnowTheProgramsFolder) {
-    Read("[Osnovna podesavanja]|Pozadinska slika=%a|Glavni direktorijum=%a|backscreenslika=%a|"
-         "[Osnovni podaci]|Logoslika=%a|Ikona=%a|[Zvuk]|Fajl=%a|SignalFajl=%a|[Uvod]|Slika=%a|"
-         "[Video]|VideoFajl1=%a|[Izvrsne komande]|Fajl1=%a");
-    const std::string expanded = folder_.Document() + "\\a";
-    EXPECT_EQ(d.OsnovnaPodesavanja.PozadinskaSlika, expanded);
-    EXPECT_EQ(d.OsnovniPodaci.Logoslika, expanded);
-    EXPECT_EQ(d.Zvuk.Fajl, expanded);
-    EXPECT_EQ(d.Video[1].VideoFajl, expanded);
-    for (const std::string& path :
-         {d.CdFolder(), d.OsnovnaPodesavanja.backscreenslika, d.OsnovniPodaci.Ikona, icon_,
-          d.Zvuk.SignalFajl, d.Uvod.Slika, d.IzvrsneKomande.Komande[1].Fajl}) {
-        EXPECT_EQ(path, "%a");
-    }
+    const std::string others = "[Osnovna podesavanja]|Glavni direktorijum=%a|backscreenslika=%a|"
+                               "[Osnovni podaci]|Ikona=%a|[Zvuk]|SignalFajl=%a|[Uvod]|Slika=%a|"
+                               "[Izvrsne komande]|Fajl1=%a";
+    const std::string knowing = "|[Osnovna podesavanja]|Pozadinska slika=@|[Osnovni podaci]|"
+                                "Logoslika=@|[Zvuk]|Fajl=@|[Video]|VideoFajl1=@";
+    const std::regex value("@");
+    Read(others + std::regex_replace(knowing, value, "%a"));
+    Expect(others + std::regex_replace(knowing, value, folder_.Document() + "\\a"));
+    EXPECT_EQ(icon_, "%a");
 }
 
 TEST_F(ProjectReaderTest, AButtonPictureThatIsMissingOrEmptyIsToldAndCleared) {
     folder_.Write("here.png", "x");
     folder_.Write("empty.png", "");
-    Read("[Napredni sabloni]|DugmePictureFile(0)=%here.png|DugmePictureFile(5)=%empty.png|"
+    Read("[Napredni "
+         "sabloni]|DugmePictureFile(0)=%here.png|DugmePictureFile(5)=%empty.png|DugmePictureFile(6)"
+         "=%empty.png|"
          "DugmePictureFile(100)=C:\\gone\\b.png");
-    const auto& buttons = d.NapredniSabloni.Dugme;
-    EXPECT_EQ(buttons[0].DugmePictureFile, folder_.Document("here.png"));
-    EXPECT_EQ(buttons[5].DugmePictureFile, "");
-    EXPECT_EQ(buttons[100].DugmePictureFile, "");
-    ASSERT_EQ(events_.size(), 5U);
+    Expect("[Napredni "
+           "sabloni]|DugmePictureFile(5)=|DugmePictureFile(6)=|DugmePictureFile(100)=|"
+           "DugmePictureFile(0)=" +
+           folder_.Document("here.png"));
+    ASSERT_EQ(events_.size(), 6U);
     EXPECT_EQ(events_[0], "Warning.../The file " + folder_.Document("empty.png") +
                               " used in this project could not be found!");
-    EXPECT_EQ(events_[1],
+    EXPECT_EQ(events_[1], events_[0]);
+    EXPECT_EQ(events_[2],
               "Warning.../The file C:\\gone\\b.png used in this project could not be found!");
-    EXPECT_FALSE(buttons[0].DugmeExists);
 }
 
 } // namespace tavmoor

@@ -1,121 +1,69 @@
 #include "core/project_reset.h"
 
-#include "core/field_writer.h"
+#include "support/field_check.h"
 #include "support/full_project.h"
 
-#include <gtest/gtest.h>
+#include <regex>
 
 namespace tavmoor {
 
-namespace {
-
-/// What "new project" leaves alone, as the document before held it.
-void CopyKeptFields(ProjectDocument& to, const ProjectDocument& from) {
-    BaseSettings base = from.OsnovnaPodesavanja;
-    base.GlavniDirektorijum = base.Sablon = base.PozadinskaSlika = "";
-    base.BojaProzora = -2147483643;
-    to.OsnovnaPodesavanja = base;
-    to.IzvrsneKomande.Bojapozadinekomandi = from.IzvrsneKomande.Bojapozadinekomandi;
-    to.IzvrsneKomande.Addshadow = from.IzvrsneKomande.Addshadow;
-    to.IzvrsneKomande.Bojasenke = from.IzvrsneKomande.Bojasenke;
-    for (std::size_t i = 0; i < AdditionalCommandRows; ++i) {
-        to.DodatneKomande[i].AddID = from.DodatneKomande[i].AddID;
-    }
-    to.DodatneKomande[100] = from.DodatneKomande[100];
-    to.MenuTitles = from.MenuTitles;
-    to.Uvod.ClickThrough = from.Uvod.ClickThrough;
-    to.Izlaz.ClickThrough = from.Izlaz.ClickThrough;
-    to.Uvod.Bojateksta = from.Uvod.Bojateksta;
-    to.Izlaz.Bojateksta = from.Izlaz.Bojateksta;
-    to.Fontovi = from.Fontovi;
-    to.Precice = from.Precice;
-    CanvasSpec& canvas = to.NapredniSabloni;
-    canvas = from.NapredniSabloni;
-    canvas.AutorunWidth = canvas.AutorunHeight = canvas.LogoTekstTop = canvas.LogoTekstLeft = 0;
-    canvas.AutorunFixedSize = false;
-    canvas.Tekst = {};
-    canvas.Dugme = {};
-    to.Ratios = from.Ratios;
-}
-
-void SetNewProjectValues(ProjectDocument& d) {
-    d.IzvrsneKomande.Bojaslova = "-2147483630";
-    d.IzvrsneKomande.Bojapozadine = 16777215;
-    d.IzvrsneKomande.Font = "Arial";
-    d.IzvrsneKomande.Velicina = "9";
-    d.Zvuk.Ponovi = d.Zvuk.Pauza = 1;
-    d.Zvuk.Komanda = "Sound on/off";
-    d.Uvod.Opcija = d.Izlaz.Opcija = 1;
-    d.Uvod.Bojaprozora = 8421504;
-    d.Izlaz.Bojaprozora = -2147483630;
-    d.Uvod.Vreme = d.Izlaz.Vreme = "5";
-    d.Poruke.Komanda1 = d.Poruke.Komanda2 = -1;
-    d.Expiration.Dugme1Komanda = d.Expiration.Dugme2Komanda = "-1";
-    for (ButtonObject& button : d.NapredniSabloni.Dugme) {
-        button.DugmeBorderVisible = true;
-    }
-}
-
-/// Makes rows appear in the files that are not live, so that texts can be compared.
-void ShowAllRows(ProjectDocument& document) {
-    for (ButtonObject& button : document.NapredniSabloni.Dugme) {
-        button.DugmeExists = true;
-    }
-    for (TextObject& text : document.ObjTekst) {
-        text.TekstBoxVisible = true;
-    }
-    for (VideoObject& video : document.Video) {
-        video.VideoFajl += "shown";
-    }
-    for (CommandEntry& command : document.DodatneKomande) {
-        command.addname += "shown";
-    }
-}
-
-} // namespace
-
 TEST(ProjectReset, GivesNewProjectValuesAndKeepsTheRest) {
-    const auto full = test::MakeFullProject("Z:\\button.png", "button.png");
-    const auto expected = std::make_unique<ProjectDocument>();
-    CopyKeptFields(*expected, full->document);
-    SetNewProjectValues(*expected);
-
+    const std::regex kept(
+        "Osnovna podesavanja/(Podesi(Velicinu|Sirinu|Visinu)|CeoEkran|BojaEkrana|backscreenslika|"
+        "Backscrpredpos|backscreenpicpozicija|Pozicija[XY])|"
+        "Izvrsne komande/(Boja pozadine komandi|Add shadow|Boja senke)|"
+        "Dodatne komande/([A-Za-z]+100|AddID\\d+)|Menu titles/.*|Uvod/(ClickThrough|Bojateksta)|"
+        "Izlaz/(ClickThroughExit|Bojateksta)|Fontovi/.*|Precice/.*|"
+        "Napredni sabloni/(MainAutorunTekst(Top|Left)|SlikaLogo[XY]|GlavniOpis.*|WindowMaximized)|"
+        "ObjTekst/(back|Logo)picOdnos[xy]");
+    const ProfileFile newValues(test::Lines(
+        "[Osnovna podesavanja]|Boja prozora=-2147483643|[Izvrsne komande]|Boja slova=-2147483630|"
+        "Boja pozadine=16777215|Font=Arial|Velicina=9|[Zvuk]|Ponovi=1|Pauza=1|Komanda=Sound on/off|"
+        "[Uvod]|Opcija=1|Bojaprozora=8421504|Vreme=5|[Izlaz]|Opcija=1|Bojaprozora=-2147483630|"
+        "Vreme=5|[Poruke]|Komanda1=-1|Komanda2=-1|[Expiration]|Dugme1Komanda=-1|Dugme2Komanda=-1|"
+        "[Napredni sabloni]|DugmeBorderVisible(0)=True|DugmeBorderVisible(7)=True|"
+        "DugmeBorderVisible(10)=True|DugmeBorderVisible(100)=True"));
+    const auto full = test::MakeFullProject();
+    const auto before = std::make_unique<ProjectDocument>(full->document);
+    const auto blank = std::make_unique<ProjectDocument>();
     ProjectDocument& d = full->document;
-    d.ObjTekst[100].TekstBoxCaption = "behind the stored ones";
-    d.Working = {.ProjectPath = "Z:\\p.tavp", .Recent = "Z:\\p.tavp", .listafajlova = {"Z:\\a"}};
+    d.ObjTekst[100].TekstBoxCaption = d.Video[0].VideoFajl = "outside of the files";
+    d.Working.ProjectPath = d.Working.Recent = "Z:\\p.tavp";
+    d.Working.listafajlova = {"Z:\\a"};
     ResetProjectSettings(d);
     ResetObjects(d);
+    for (const ProfileFile file(full->projectText + full->configurationText);
+         const auto& [section, key, value] : file.Entries()) {
+        if (key == "Boja pozadine  komandi") {
+            continue; // a second line of another field
+        }
+        const FieldPlace place = FindField(section, key).value();
+        const std::string name = std::string(section) + "/" + std::string(key);
+        const std::string_view newValue = newValues.Value(section, key);
+        const std::string cleared =
+            newValue.empty() ? FieldText(*blank, place) : std::string(newValue);
+        EXPECT_EQ(FieldText(d, place),
+                  std::regex_match(name, kept) ? FieldText(*before, place) : cleared)
+            << name;
+    }
+    EXPECT_EQ(d.ObjTekst[100].TekstBoxCaption + d.Video[0].VideoFajl, "");
+    EXPECT_FALSE(d.NapredniSabloni.Dugme[7].DugmeExists);
     EXPECT_EQ(d.Working.ProjectPath, "");
     EXPECT_EQ(d.Working.Recent, "Z:\\p.tavp");
     EXPECT_TRUE(d.Working.listafajlova.empty());
-    EXPECT_EQ(d.ObjTekst[100].TekstBoxCaption, "");
-    EXPECT_EQ(d.DodatneKomande[99].addname, "");
-    EXPECT_EQ(d.DodatneKomande[100].addname, "N&100");
-    for (const ButtonObject& button : d.NapredniSabloni.Dugme) {
-        EXPECT_FALSE(button.DugmeExists);
-    }
-    ShowAllRows(d);
-    ShowAllRows(*expected);
-    for (const FieldFile file : {FieldFile::Project, FieldFile::Configuration}) {
-        EXPECT_EQ(FieldFileText(d, file), FieldFileText(*expected, file));
-    }
 }
 
 TEST(ProjectReset, OfTheObjectsClearsTheCanvasAlone) {
-    const auto full = test::MakeFullProject("Z:\\button.png", "button.png");
-    ProjectDocument& d = full->document;
-    ResetObjects(d);
-    EXPECT_EQ(d.NapredniSabloni.AutorunWidth, 0);
-    EXPECT_EQ(d.NapredniSabloni.MainAutorunTekstTop, 9005);
-    EXPECT_EQ(d.NapredniSabloni.Dugme[100].DugmePictureFile, "");
-    EXPECT_TRUE(d.NapredniSabloni.Dugme[7].DugmeBorderVisible);
-    EXPECT_FALSE(d.NapredniSabloni.Dugme[7].DugmeExists);
-    EXPECT_EQ(d.NapredniSabloni.Tekst[2].TekstBackgroundColor, "");
-    EXPECT_EQ(d.NapredniSabloni.Tekst[0].Poravnanje, 3);
-    EXPECT_FALSE(d.ObjTekst[42].TekstBoxVisible);
-    EXPECT_EQ(d.IzvrsneKomande.Exitdesctitle + d.IzvrsneKomande.Sounddescription, "");
-    EXPECT_EQ(d.IzvrsneKomande.Izlaz, "Leave & go");
-    EXPECT_EQ(d.Video[1].VideoFajl, "Z:\\films\\film1.avi");
+    const auto full = test::MakeFullProject();
+    ResetObjects(full->document);
+    test::ExpectFields(
+        full->document,
+        "[Napredni sabloni]|AutorunWidth=0|MainAutorunTekstTop=9005|DugmeX(7)=0|"
+        "DugmePictureFile(100)=|DugmeBorderVisible(7)=True|TekstUnderline(2)=False|"
+        "TekstBackgroundColor(2)=|Poravnanje(3)=3|[ObjTekst]|TekstBoxVisible(42)=False|"
+        "[Izvrsne komande]|Exitdesctitle=|Sounddescription=|Izlaz=Leave & go|"
+        "[Video]|VideoFajl1=Z:\\v\\1");
+    EXPECT_FALSE(full->document.NapredniSabloni.Dugme[7].DugmeExists);
 }
 
 } // namespace tavmoor

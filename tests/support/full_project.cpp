@@ -1,418 +1,229 @@
 #include "support/full_project.h"
 
 #include <string_view>
-#include <type_traits>
+#include <vector>
 
 namespace tavmoor::test {
 
 namespace {
 
-using Text = std::string;
-
-Text Stored(const Text& value) {
-    return value;
-}
-Text Stored(int value) {
-    return std::to_string(value);
+std::int16_t Short(std::size_t number) {
+    return static_cast<std::int16_t>(number);
 }
 
-/// Sets fields one by one and puts down the lines that they must give.
-class Script {
+/// The texts of both files: '|' ends a line, '@' is the row's number, '^' the next of the flags;
+/// what stands in < > goes into the project file alone, in { } into the configuration alone.
+class Golden {
 public:
-    explicit Script(FullProject& full) : full_(full) {}
+    explicit Golden(FullProject& full) : full_(full) {}
 
-    void Section(const Text& name) { Both("[" + name + "]"); }
-    void Both(const Text& line) {
-        full_.projectText += line + "\r\n";
-        full_.configurationText += line + "\r\n";
-    }
-    void ProjectLine(const Text& line) { full_.projectText += line + "\r\n"; }
-    void ConfigurationLine(const Text& line) { full_.configurationText += line + "\r\n"; }
-
-    /// A field whose value stands in the files as it is.
-    template <typename Member, typename Value>
-    void Put(const Text& key, Member& member, const Value& value) {
-        Put(key, member, value, Stored(value));
-    }
-    /// A field with another stored form.
-    template <typename Member, typename Value>
-    void Put(const Text& key, Member& member, const Value& value, const Text& stored) {
-        Put(key, member, value, stored, stored);
-    }
-    /// A field whose form differs between the files.
-    template <typename Member, typename Value>
-    void Put(const Text& key, Member& member, const Value& value, const Text& inProject,
-             const Text& inConfiguration) {
-        Set(member, value);
-        ProjectLine(key + "=" + inProject);
-        ConfigurationLine(key + "=" + inConfiguration);
-    }
-    /// A path that the configuration reduces to its name.
-    void Path(const Text& key, Text& member, const Text& folder, const Text& name) {
-        Put(key, member, folder + name, folder + name, name);
-    }
-    template <typename Member, typename Value>
-    void ProjectOnly(const Text& key, Member& member, const Value& value) {
-        Set(member, value);
-        ProjectLine(key + "=" + Stored(value));
-    }
-    template <typename Member, typename Value>
-    void ConfigurationOnly(const Text& key, Member& member, const Value& value) {
-        Set(member, value);
-        ConfigurationLine(key + "=" + Stored(value));
+    void Add(std::string_view script, std::size_t row = 0, const std::vector<bool>& flags = {}) {
+        auto flag = flags.begin();
+        for (const char character : script) {
+            switch (character) {
+            case '|':
+                Put("\r\n");
+                break;
+            case '@':
+                Put(std::to_string(row));
+                break;
+            case '^':
+                Put(*flag++ ? "True" : "False");
+                break;
+            case '<':
+            case '>':
+                inConfiguration_ = character == '>';
+                break;
+            case '{':
+            case '}':
+                inProject_ = character == '}';
+                break;
+            default:
+                Put(std::string(1, character));
+            }
+        }
     }
 
 private:
-    template <typename Member, typename Value>
-    void Set(Member& member, const Value& value) {
-        if constexpr (std::is_same_v<Member, Text>) {
-            member = value;
-        } else {
-            member = static_cast<Member>(value);
-        }
+    void Put(const std::string& text) {
+        full_.projectText += inProject_ ? text : "";
+        full_.configurationText += inConfiguration_ ? text : "";
     }
 
     FullProject& full_;
+    bool inProject_ = true;
+    bool inConfiguration_ = true;
 };
 
-void BaseAndTitles(Script& s, ProjectDocument& d) {
-    BaseSettings& b = d.OsnovnaPodesavanja;
-    s.Section("Osnovna podesavanja");
-    s.ProjectOnly("Glavni direktorijum", b.GlavniDirektorijum, "Z:\\disc");
-    s.ProjectOnly("Sablon", b.Sablon, "Z:\\templates\\gone\\gone.tavt");
-    s.Path("Pozadinska slika", b.PozadinskaSlika, "Z:\\art\\", "back.jpg");
-    s.Put("Boja prozora", b.BojaProzora, 1193046);
-    s.Put("PodesiVelicinu", b.PodesiVelicinu, true, "Da");
-    s.Put("PodesiSirinu", b.PodesiSirinu, 640);
-    s.Put("PodesiVisinu", b.PodesiVisinu, 480);
-    s.Put("CeoEkran", b.CeoEkran, true, "Da");
-    s.Put("BojaEkrana", b.BojaEkrana, "-2147483643");
-    s.Path("backscreenslika", b.backscreenslika, "Z:\\art\\", "screen.bmp");
-    s.Put("Backscrpredpos", b.Backscrpredpos, false, "Ne");
-    s.Put("backscreenpicpozicija", b.backscreenpicpozicija, "Ne");
-    s.Put("PozicijaX", b.PozicijaX, -12);
-    s.Put("PozicijaY", b.PozicijaY, 34);
+// The values below stand in the order of the members.
 
-    MainTexts& t = d.OsnovniPodaci;
-    s.Section("Osnovni podaci");
-    s.ProjectOnly("exename", t.exename, "start.exe");
-    s.Put("Tasknaslov", t.Tasknaslov, "Task\r\nbar", "TaskChr$(13)Chr$(10)bar");
-    s.Put("Logotekst", t.Logotekst, "Logo & text", "Logo Chr$(38) text");
-    s.Put("Logotekstboja", t.Logotekstboja, 101);
-    s.Path("Logoslika", t.Logoslika, "Z:\\art\\", "logo.gif");
-    s.Put("Glavninaslov", t.Glavninaslov, "A&B", "AChr$(38)B");
-    s.Put("GlavninaslovFont", t.GlavninaslovFont, "Main font");
-    s.Put("GlnaslovVel", t.GlnaslovVel, "21");
-    s.Put("GlnaslovBoja", t.GlnaslovBoja, 102);
-    s.Put("GlavniOpisnaslov", t.GlavniOpisnaslov, "C\nD", "CChr$(10)D");
-    s.Put("GlavniOpisnaslovFont", t.GlavniOpisnaslovFont, "Heading font");
-    s.Put("GlavniOpisnaslovVel", t.GlavniOpisnaslovVel, "22");
-    s.Put("GlavniOpisnaslovBoja", t.GlavniOpisnaslovBoja, 103);
-    s.Put("GlavniOpisnaslovBold", t.GlavniOpisnaslovBold, true, "True");
-    s.Put("GlavniOpisnaslovItalic", t.GlavniOpisnaslovItalic, false, "False");
-    s.Put("GlavniOpis", t.GlavniOpis, "E&F", "EChr$(38)F");
-    s.Put("GlavniOpisFont", t.GlavniOpisFont, "Body font");
-    s.Put("GlavniOpisVel", t.GlavniOpisVel, "23");
-    s.Put("GlavniOpisBoja", t.GlavniOpisBoja, 104);
-    s.Put("GlavniOpisBold", t.GlavniOpisBold, false, "False");
-    s.Put("GlavniOpisItalic", t.GlavniOpisItalic, true, "True");
-    t.Opisprovidan = true;
-    s.ProjectLine("Opis providan=1");
-    s.Path("Ikona", t.Ikona, "Z:\\art\\", "disc.ico");
-    s.Put("Font", t.Font, "Logo font");
-    s.Put("Velicina", t.Velicina, "24");
-    s.Put("Stil", t.Stil, "Italic");
-    s.Put("Efekti", t.Efekti, "StrikeThru, Underline");
-    s.Put("Vertekst", t.Vertekst, "Up & down", "Up & down", "Up Chr$(38) down");
-    s.Put("Vertfont", t.Vertfont, "Vertical font");
-    s.Put("Vertfontvelicina", t.Vertfontvelicina, "25");
-    s.ConfigurationOnly("Vertfontboja", t.Vertfontboja, 105);
-    s.ConfigurationLine("Opis providan=1");
+void BaseAndTitles(Golden& golden, ProjectDocument& d) {
+    d.OsnovnaPodesavanja = {"Z:\\disc", "Z:\\t\\a.tavt", "Z:\\p\\b.jpg", 101,   true, 640, 480,
+                            true,       "102",           "Z:\\p\\s.bmp", false, "Ne", -12, 34};
+    golden.Add("[Osnovna podesavanja]|<Glavni direktorijum=Z:\\disc|Sablon=Z:\\t\\a.tavt|>"
+               "Pozadinska slika=<Z:\\p\\>b.jpg|Boja prozora=101|PodesiVelicinu=Da|"
+               "PodesiSirinu=640|PodesiVisinu=480|CeoEkran=Da|BojaEkrana=102|"
+               "backscreenslika=<Z:\\p\\>s.bmp|Backscrpredpos=Ne|backscreenpicpozicija=Ne|"
+               "PozicijaX=-12|PozicijaY=34|");
+    d.OsnovniPodaci = {
+        "x.exe", "T\r\nb", "L & t", 103,  "Z:\\p\\l.gif", "A&B", "F1",  "21",     104,
+        "C\nD",  "F2",     "22",    105,  true,           false, "E&F", "F3",     "23",
+        106,     false,    true,    true, "Z:\\p\\d.ico", "F4",  "24",  "Italic", "Underline",
+        "U & d", "F5",     "25",    107};
+    golden.Add("[Osnovni podaci]|<exename=x.exe|>Tasknaslov=TChr$(13)Chr$(10)b|"
+               "Logotekst=L Chr$(38) t|Logotekstboja=103|Logoslika=<Z:\\p\\>l.gif|"
+               "Glavninaslov=AChr$(38)B|GlavninaslovFont=F1|GlnaslovVel=21|GlnaslovBoja=104|"
+               "GlavniOpisnaslov=CChr$(10)D|GlavniOpisnaslovFont=F2|GlavniOpisnaslovVel=22|"
+               "GlavniOpisnaslovBoja=105|GlavniOpisnaslovBold=True|GlavniOpisnaslovItalic=False|"
+               "GlavniOpis=EChr$(38)F|GlavniOpisFont=F3|GlavniOpisVel=23|GlavniOpisBoja=106|"
+               "GlavniOpisBold=False|GlavniOpisItalic=True|<Opis providan=1|>"
+               "Ikona=<Z:\\p\\>d.ico|Font=F4|Velicina=24|Stil=Italic|Efekti=Underline|"
+               "Vertekst=U <&>{Chr$(38)} d|Vertfont=F5|Vertfontvelicina=25|"
+               "{Vertfontboja=107|Opis providan=1|}");
 }
 
-void Commands(Script& s, ProjectDocument& d) {
-    CommandLook& c = d.IzvrsneKomande;
-    s.Section("Izvrsne komande");
-    s.Put("Izlaz", c.Izlaz, "Leave & go", "Leave & go", "Leave Chr$(38) go");
-    s.Put("Exitdesctitle", c.Exitdesctitle, "&1", "Chr$(38)1");
-    s.Put("Exitdescription", c.Exitdescription, "&2", "Chr$(38)2");
-    s.Put("Sounddesctitle", c.Sounddesctitle, "&3", "Chr$(38)3");
-    s.Put("Sounddescription", c.Sounddescription, "&4", "Chr$(38)4");
+void Commands(Golden& golden, ProjectDocument& d) {
+    CommandLook& look = d.IzvrsneKomande;
+    look = {"Leave & go", "&1", "&2", "&3", "&4", {}, "111", 113, "112", "F6", "26", true, "114"};
+    golden.Add("[Izvrsne komande]|Izlaz=Leave <&>{Chr$(38)} go|Exitdesctitle=Chr$(38)1|"
+               "Exitdescription=Chr$(38)2|Sounddesctitle=Chr$(38)3|Sounddescription=Chr$(38)4|");
     for (std::size_t i = 1; i <= 6; ++i) {
-        const Text n = std::to_string(i);
-        FixedCommand& f = c.Komande[i];
-        s.Put("Fajl" + n, f.Fajl, "bin\\tool" + n + ".exe");
-        s.Put("Opis" + n, f.Opis, "&" + n, "Chr$(38)" + n);
-        s.Put("Parametar" + n, f.Parametar, "/p" + n);
-        s.Put("Vrsta" + n, f.Vrsta, "Run program" + n);
-        s.Put("Zatvara" + n, f.Zatvara, static_cast<int>(i % 2));
+        const std::string n = std::to_string(i);
+        look.Komande[i] = {"bin\\" + n + ".exe", "&" + n, "/p" + n, "Run program" + n, Short(i)};
+        golden.Add("Fajl@=bin\\@.exe|Opis@=Chr$(38)@|Parametar@=/p@|Vrsta@=Run program@|", i);
+        golden.Add("Zatvara@=@|", i);
     }
-    s.Put("Boja slova", c.Bojaslova, "111");
-    s.ProjectLine("Boja pozadine  komandi=112");
-    s.ConfigurationLine("Boja pozadine komandi=112");
-    s.Put("Boja pozadine", c.Bojapozadine, 113);
-    s.Put("Boja pozadine komandi", c.Bojapozadinekomandi, "112");
-    s.Put("Font", c.Font, "Menu font");
-    s.Put("Velicina", c.Velicina, "26");
-    s.Put("Add shadow", c.Addshadow, true, "1");
-    s.Put("Boja senke", c.Bojasenke, "114");
-
-    s.Section("Opis komandi");
+    golden.Add("Boja slova=111|Boja pozadine < >komandi=112|Boja pozadine=113|"
+               "Boja pozadine komandi=112|Font=F6|Velicina=26|Add shadow=1|Boja senke=114|"
+               "[Opis komandi]|");
     for (std::size_t i = 1; i <= 6; ++i) {
-        const Text n = std::to_string(i);
-        s.Put("C" + n, d.OpisKomandi[i].C, "&c" + n, "Chr$(38)c" + n);
-        s.Put("O" + n, d.OpisKomandi[i].O, "&o" + n, "Chr$(38)o" + n);
+        d.OpisKomandi[i] = {"&c" + std::to_string(i), "&o" + std::to_string(i)};
+        golden.Add("C@=Chr$(38)c@|O@=Chr$(38)o@|", i);
     }
-
-    s.Section("Dodatne komande");
+    golden.Add("[Dodatne komande]|");
     for (std::size_t i = 0; i <= 100; ++i) {
-        const Text n = std::to_string(i);
-        CommandEntry& a = d.DodatneKomande[i];
-        if (i == 1) {
-            s.Put("addname1", a.addname, "  ", "#Empty#");
-        } else {
-            s.Put("addname" + n, a.addname, "N&" + n, "NChr$(38)" + n);
-        }
-        s.Put("adddesctitle" + n, a.adddesctitle, "T&" + n, "TChr$(38)" + n);
-        s.Put("adddescription" + n, a.adddescription, "D&" + n, "DChr$(38)" + n);
-        s.Put("addtarget" + n, a.addtarget, "docs\\file" + n + ".pdf");
-        s.Put("addparam" + n, a.addparam, "/a" + n);
-        s.Put("addtype" + n, a.addtype, "Open file" + n);
-        s.Put("addclose" + n, a.addclose, "1" + n);
-        s.Put("addStopBackgroundMusic" + n, a.addStopBackgroundMusic, "2" + n);
-        s.ProjectOnly("AddID" + n, a.AddID, 1000000 + static_cast<int>(i));
+        const std::string n = std::to_string(i);
+        d.DodatneKomande[i] = {i == 1 ? "  " : "N&" + n, "T&" + n, "D&" + n, "d\\" + n, "/a" + n,
+                               "Open file" + n,          "c" + n,  "s" + n,  -Short(i)};
+        golden.Add(i == 1 ? "addname1=#Empty#|" : "addname@=NChr$(38)@|", i);
+        golden.Add("adddesctitle@=TChr$(38)@|adddescription@=DChr$(38)@|addtarget@=d\\@|", i);
+        golden.Add("addparam@=/a@|addtype@=Open file@|addclose@=c@|addStopBackgroundMusic@=s@|", i);
+        golden.Add(i == 0 ? "<AddID0=0|>" : "<AddID@=-@|>", i);
     }
-
-    s.Section("Menu titles");
-    s.Put("TitleMain", d.MenuTitles.TitleMain, "&m", "Chr$(38)m");
-    s.Put("Titleinfo", d.MenuTitles.Titleinfo, "&i", "Chr$(38)i");
-    s.Put("Titleprog", d.MenuTitles.Titleprog, "&p", "Chr$(38)p");
-    s.Put("Titleaddit", d.MenuTitles.Titleaddit, "&a", "Chr$(38)a");
+    d.MenuTitles = {"&m", "&i", "&p", "&a"};
+    golden.Add("[Menu titles]|TitleMain=Chr$(38)m|Titleinfo=Chr$(38)i|Titleprog=Chr$(38)p|"
+               "Titleaddit=Chr$(38)a|");
 }
 
-void SoundAndScreens(Script& s, ProjectDocument& d) {
-    SoundSpec& z = d.Zvuk;
-    s.Section("Zvuk");
-    s.Path("Fajl", z.Fajl, "Z:\\music\\", "tune.mp3");
-    s.Put("Akcija", z.Akcija, true, "1");
-    s.Put("Ponovi", z.Ponovi, 3);
-    s.Put("Pauza", z.Pauza, 4);
-    s.Put("Komanda", z.Komanda, "&s", "Chr$(38)s");
-    s.Put("Signal", z.Signal, true, "1");
-    s.Path("SignalFajl", z.SignalFajl, "Z:\\music\\", "click.wav");
-
-    ScreenSpec& u = d.Uvod;
-    s.Section("Uvod");
-    s.Put("Prikazi", u.Prikazi, true, "1");
-    s.Put("ClickThrough", u.ClickThrough, false, "0");
-    s.Put("Poruka", u.Tekst, "Hel\nlo", "HelChr$(10)lo");
-    s.Put("Font", u.Font, "Splash font");
-    s.Put("Fontvelicina", u.Fontvelicina, "27");
-    s.Put("Bold", u.Bold, true, "1");
-    s.Put("Italic", u.Italic, false, "0");
-    s.Put("Underline", u.Underline, true, "1");
-    s.Put("Bojateksta", u.Bojateksta, 121);
-    s.Path("Slika", u.Slika, "Z:\\art\\", "splash.jpg");
-    s.Put("Opcija", u.Opcija, 2);
-    s.Put("Bojaprozora", u.Bojaprozora, 122);
-    s.Put("Vreme", u.Vreme, "6");
-    s.Put("Visina", u.Visina, 123);
-    s.Put("Sirina", u.Sirina, 124);
-    s.Put("Polozajteksta", u.Polozajteksta, "Top right");
-    s.Put("Polozajslike", u.Polozajslike, "Botton left");
-
-    ScreenSpec& x = d.Izlaz;
-    s.Section("Izlaz");
-    s.Put("Prikazi", x.Prikazi, false, "0");
-    s.Put("ClickThroughExit", x.ClickThrough, true, "1");
-    s.Put("Tekst", x.Tekst, "B&ye", "BChr$(38)ye");
-    s.Put("Font", x.Font, "Exit font");
-    s.Put("Fontvelicina", x.Fontvelicina, "28");
-    s.Put("Bojateksta", x.Bojateksta, 131);
-    s.Put("Bold", x.Bold, false, "0");
-    s.Put("Italic", x.Italic, true, "1");
-    s.Put("Underline", x.Underline, false, "0");
-    s.Path("Slika", x.Slika, "Z:\\art\\", "exit.jpg");
-    s.Put("Opcija", x.Opcija, 3);
-    s.Put("Bojaprozora", x.Bojaprozora, 132);
-    s.Put("Vreme", x.Vreme, "7");
-    s.Put("Visina", x.Visina, 133);
-    s.Put("Sirina", x.Sirina, 134);
-    s.Put("Polozajteksta", x.Polozajteksta, "Bottom center");
-    s.Put("Polozajslike", x.Polozajslike, "Centered on window");
-
-    s.ProjectLine("[Fontovi]");
+void SoundScreensAndEffects(Golden& golden, ProjectDocument& d) {
+    d.Zvuk = {"Z:\\m\\tune.mp3", true, 3, 4, "&s", true, "Z:\\m\\click.wav"};
+    golden.Add("[Zvuk]|Fajl=<Z:\\m\\>tune.mp3|Akcija=1|Ponovi=3|Pauza=4|Komanda=Chr$(38)s|"
+               "Signal=1|SignalFajl=<Z:\\m\\>click.wav|");
+    d.Uvod = {true,           false, "Hi\n", "F7", "27", true, false,       true,         121,
+              "Z:\\p\\u.jpg", 2,     122,    "6",  123,  124,  "Top right", "Botton left"};
+    golden.Add("[Uvod]|Prikazi=1|ClickThrough=0|Poruka=HiChr$(10)|Font=F7|Fontvelicina=27|Bold=1|"
+               "Italic=0|Underline=1|Bojateksta=121|Slika=<Z:\\p\\>u.jpg|Opcija=2|Bojaprozora=122|"
+               "Vreme=6|Visina=123|Sirina=124|Polozajteksta=Top right|Polozajslike=Botton left|");
+    d.Izlaz = {false,          true, "B&", "F8", "28", false, true,       false,       131,
+               "Z:\\p\\i.jpg", 3,    132,  "7",  133,  134,   "Top left", "Top center"};
+    golden.Add("[Izlaz]|Prikazi=0|ClickThroughExit=1|Tekst=BChr$(38)|Font=F8|Fontvelicina=28|"
+               "Bojateksta=131|Bold=0|Italic=1|Underline=0|Slika=<Z:\\p\\>i.jpg|Opcija=3|"
+               "Bojaprozora=132|Vreme=7|Visina=133|Sirina=134|Polozajteksta=Top left|"
+               "Polozajslike=Top center|<[Fontovi]|>");
     for (std::size_t i = 0; i <= 20; ++i) {
-        const Text n = std::to_string(i);
-        s.ProjectOnly("Font" + n, d.Fontovi[i], "Z:\\fonts\\f" + n + ".ttf");
+        d.Fontovi[i] = "Z:\\f" + std::to_string(i) + ".ttf";
+        golden.Add("<Font@=Z:\\f@.ttf|>", i);
     }
-
-    EffectSet& e = d.Efekti;
-    s.Section("Efekti");
-    s.Put("Splash fade in", e.Splashfadein, true, "True");
-    s.Put("Splash fade out", e.Splashfadeout, false, "False");
-    s.Put("Main fade in", e.Mainfadein, false, "False");
-    s.Put("Main fade out", e.Mainfadeout, true, "True");
-    s.Put("Exit fade in", e.Exitfadein, true, "True");
-    s.Put("Exit fade out", e.Exitfadeout, true, "True");
-    s.Put("esplashenter", e.esplashenter, 11);
-    s.Put("emainenter", e.emainenter, 12);
-    s.Put("eexitenter", e.eexitenter, 13);
-    s.Put("esplashleave", e.esplashleave, 14);
-    s.Put("emainleave", e.emainleave, 15);
-    s.Put("eexitleave", e.eexitleave, 16);
+    d.Efekti = {true, false, false, true, true, false, 11, 12, 13, 14, 15, 16};
+    golden.Add("[Efekti]|Splash fade in=True|Splash fade out=False|Main fade in=False|"
+               "Main fade out=True|Exit fade in=True|Exit fade out=False|esplashenter=11|"
+               "emainenter=12|eexitenter=13|esplashleave=14|emainleave=15|eexitleave=16|");
 }
 
-void Messages(Script& s, ProjectDocument& d) {
-    StartMessageSpec& p = d.Poruke;
-    s.Section("Poruke");
-    s.Put("Vrsta", p.Vrsta, 2);
-    s.Put("Naslov", p.Naslov, "Welcome");
-    s.Put("Tekst", p.Tekst, "Hi&", "HiChr$(38)");
-    s.Put("Dugme1", p.Dugme1, "Yes");
-    s.Put("Komanda1", p.Komanda1, 1);
-    s.Put("Dugme2", p.Dugme2, "No");
-    s.Put("Komanda2", p.Komanda2, -1);
-    s.Put("Meta1", p.Meta1, "m1");
-    s.Put("Meta2", p.Meta2, "m2");
-    s.Put("Par1", p.Par1, "p1");
-    s.Put("Par2", p.Par2, "p2");
-
-    ExpirationSpec& x = d.Expiration;
-    s.Section("Expiration");
-    s.Put("Enabled", x.Enabled, true, "True");
-    s.Put("Godina", x.Godina, "2031");
-    s.Put("Mesec", x.Mesec, "12");
-    s.Put("Dan", x.Dan, "24");
-    s.Put("Naslov", x.Naslov, "Over");
-    s.Put("Poruka", x.Poruka, "End\n", "EndChr$(10)");
-    s.Put("Vrsta", x.Vrsta, "1");
-    s.Put("Dugme1Naslov", x.Dugme1Naslov, "b1");
-    s.Put("Dugme2Naslov", x.Dugme2Naslov, "b2");
-    s.Put("Dugme1Komanda", x.Dugme1Komanda, "3");
-    s.Put("Dugme2Komanda", x.Dugme2Komanda, "4");
-    s.Put("IsticanjeDugme1Meta", x.IsticanjeDugme1Meta, "t1");
-    s.Put("IsticanjeDugme2Meta", x.IsticanjeDugme2Meta, "t2");
-    s.Put("IsticanjeDugme1Param", x.IsticanjeDugme1Param, "q1");
-    s.Put("IsticanjeDugme2Param", x.IsticanjeDugme2Param, "q2");
-
-    s.Section("Precice");
-    s.Put("Enabled", d.Precice.Enabled, true, "True");
+void MessagesAndShortcuts(Golden& golden, ProjectDocument& d) {
+    d.Poruke = {2, "Welcome", "Hi&", "Yes", 1, "No", -1, "m1", "m2", "p1", "p2"};
+    golden.Add("[Poruke]|Vrsta=2|Naslov=Welcome|Tekst=HiChr$(38)|Dugme1=Yes|Komanda1=1|Dugme2=No|"
+               "Komanda2=-1|Meta1=m1|Meta2=m2|Par1=p1|Par2=p2|");
+    d.Expiration = {true, "2031", "12", "24", "Over", "End\n", "1", "b1",
+                    "b2", "3",    "4",  "t1", "t2",   "q1",    "q2"};
+    golden.Add("[Expiration]|Enabled=True|Godina=2031|Mesec=12|Dan=24|Naslov=Over|"
+               "Poruka=EndChr$(10)|Vrsta=1|Dugme1Naslov=b1|Dugme2Naslov=b2|Dugme1Komanda=3|"
+               "Dugme2Komanda=4|IsticanjeDugme1Meta=t1|IsticanjeDugme2Meta=t2|"
+               "IsticanjeDugme1Param=q1|IsticanjeDugme2Param=q2|[Precice]|Enabled=True|");
+    d.Precice.Enabled = true;
     for (std::size_t i = 0; i <= 50; ++i) {
-        const Text n = std::to_string(i);
-        ShortcutEntry& e = d.Precice.Precice[i];
-        s.Put("Ime" + n, e.Ime, "name" + n);
-        s.Put("Lokacija" + n, e.Lokacija, "Desktop" + n);
-        s.Put("Meta" + n, e.Meta, "target" + n);
-        s.Put("Ekstra" + n, e.Ekstra, "group" + n);
+        const std::string n = std::to_string(i);
+        d.Precice.Precice[i] = {"name" + n, "Desktop" + n, "target" + n, "group" + n};
+        golden.Add("Ime@=name@|Lokacija@=Desktop@|Meta@=target@|Ekstra@=group@|", i);
     }
 }
 
-void Canvas(Script& s, CanvasSpec& c, const Text& picture, const Text& pictureName) {
-    s.Section("Napredni sabloni");
-    s.Put("AutorunWidth", c.AutorunWidth, 9001);
-    s.Put("AutorunHeight", c.AutorunHeight, 9002);
-    s.Put("AutorunFixedSize", c.AutorunFixedSize, true, "True");
-    s.Put("LogoTekstTop", c.LogoTekstTop, 9003);
-    s.Put("LogoTekstLeft", c.LogoTekstLeft, 9004);
-    s.Put("MainAutorunTekstTop", c.MainAutorunTekstTop, 9005);
-    s.Put("MainAutorunTekstLeft", c.MainAutorunTekstLeft, 9006);
-    s.Put("SlikaLogoX", c.SlikaLogoX, -32768);
-    s.Put("SlikaLogoY", c.SlikaLogoY, 32767);
-    s.Put("GlavniOpisNaslovX", c.GlavniOpisNaslovX, 9007);
-    s.Put("GlavniOpisNaslovY", c.GlavniOpisNaslovY, 9008);
-    s.Put("GlavniOpisNaslovWidth", c.GlavniOpisNaslovWidth, 9009);
-    s.Put("GlavniOpisX", c.GlavniOpisX, 9010);
-    s.Put("GlavniOpisY", c.GlavniOpisY, 9011);
-    s.Put("GlavniOpisWidth", c.GlavniOpisWidth, 9012);
-    s.Put("GlavniOpisHeight", c.GlavniOpisHeight, 9013);
+void Canvas(Golden& golden, CanvasSpec& canvas, const std::string& folder) {
+    canvas = {9001, 9002, true, 9003, 9004, 9005, 9006, -32768, 32767, 9007,
+              9008, 9009, 9010, 9011, 9012, 9013, {},   {},     true};
+    golden.Add("[Napredni sabloni]|AutorunWidth=9001|AutorunHeight=9002|AutorunFixedSize=True|"
+               "LogoTekstTop=9003|LogoTekstLeft=9004|MainAutorunTekstTop=9005|"
+               "MainAutorunTekstLeft=9006|SlikaLogoX=-32768|SlikaLogoY=32767|"
+               "GlavniOpisNaslovX=9007|GlavniOpisNaslovY=9008|GlavniOpisNaslovWidth=9009|"
+               "GlavniOpisX=9010|GlavniOpisY=9011|GlavniOpisWidth=9012|GlavniOpisHeight=9013|");
     for (std::size_t i = 0; i <= 3; ++i) {
-        const Text n = "(" + std::to_string(i) + ")";
-        FixedText& t = c.Tekst[i];
-        s.Put("TekstUnderline" + n, t.TekstUnderline, i == 2, i == 2 ? "True" : "False");
-        s.Put("TekstBackgroundStyle" + n, t.TekstBackgroundStyle, static_cast<int>(i % 2));
-        s.Put("TekstBackgroundColor" + n, t.TekstBackgroundColor, "14" + std::to_string(i));
-        s.Put("Poravnanje" + n, t.Poravnanje, static_cast<int>(3 - i));
+        canvas.Tekst[i] = {i == 2, 1, "14" + std::to_string(i), Short(i)};
+        golden.Add("TekstUnderline(@)=^|TekstBackgroundStyle(@)=1|TekstBackgroundColor(@)=14@|"
+                   "Poravnanje(@)=@|",
+                   i, {i == 2});
     }
-    for (const std::size_t i : {0U, 7U, 100U}) {
-        const Text n = "(" + std::to_string(i) + ")";
-        const int base = static_cast<int>(i);
-        ButtonObject& b = c.Dugme[i];
-        b.DugmeExists = true;
-        s.Put("DugmeX" + n, b.DugmeX, 1000 + base);
-        s.Put("DugmeY" + n, b.DugmeY, 2000 + base);
-        s.Put("DugmeForeBoja" + n, b.DugmeForeBoja, "15" + std::to_string(i));
-        s.Put("DugmeBackBoja" + n, b.DugmeBackBoja, "16" + std::to_string(i));
-        s.Put("DugmeBorderBoja" + n, b.DugmeBorderBoja, "17" + std::to_string(i));
-        s.Put("DugmeFontName" + n, b.DugmeFontName, "Button font" + n);
-        s.Put("DugmeFontSize" + n, b.DugmeFontSize, 30 + base);
-        s.Put("DugmeItalic" + n, b.DugmeItalic, i == 0, i == 0 ? "True" : "False");
-        s.Put("DugmeBold" + n, b.DugmeBold, i == 7, i == 7 ? "True" : "False");
-        s.Put("DugmeBorderVisible" + n, b.DugmeBorderVisible, i == 0, i == 0 ? "True" : "False");
-        s.Put("DugmeResizeManual" + n, b.DugmeResizeManual, i != 0, i != 0 ? "True" : "False");
-        s.Put("DugmeWidth" + n, b.DugmeWidth, 3000 + base);
-        s.Put("DugmeID" + n, b.DugmeID, 9999999 - base);
-        s.Put("DugmePictureFile" + n, b.DugmePictureFile, picture, picture, pictureName);
-        s.Put("DugmeStretchToPicture" + n, b.DugmeStretchToPicture, 1);
+    for (const std::size_t i : {0U, 7U, 10U, 100U}) {
+        const std::string n = std::to_string(i);
+        canvas.Dugme[i] = {
+            100,    Short(i), "f" + n, "b" + n,  "r" + n, "F" + n, 12,
+            i == 0, i == 7,   i == 10, i == 100, 300,     9999999, folder + "\\button.png",
+            1,      true};
+        golden.Add("DugmeX(@)=100|DugmeY(@)=@|DugmeForeBoja(@)=f@|DugmeBackBoja(@)=b@|"
+                   "DugmeBorderBoja(@)=r@|DugmeFontName(@)=F@|DugmeFontSize(@)=12|DugmeItalic(@)=^|"
+                   "DugmeBold(@)=^|DugmeBorderVisible(@)=^|DugmeResizeManual(@)=^|"
+                   "DugmeWidth(@)=300|DugmeID(@)=9999999|DugmePictureFile(@)=<" +
+                       folder + "\\>button.png|DugmeStretchToPicture(@)=1|",
+                   i, {i == 0, i == 7, i == 10, i == 100});
     }
-    s.Put("WindowMaximized", c.WindowMaximized, true, "True");
+    golden.Add("WindowMaximized=True|");
 }
 
-void TextsAndVideos(Script& s, ProjectDocument& d) {
-    s.Section("ObjTekst");
+void TextsAndVideos(Golden& golden, ProjectDocument& d) {
+    golden.Add("[ObjTekst]|");
     for (const std::size_t i : {0U, 42U, 99U}) {
-        const Text n = "(" + std::to_string(i) + ")";
-        const int base = static_cast<int>(i);
-        const bool first = i == 0;
-        TextObject& t = d.ObjTekst[i];
-        s.Put("TekstBoxX" + n, t.TekstBoxX, 100 + base);
-        s.Put("TekstBoxY" + n, t.TekstBoxY, 300 + base);
-        s.Put("TekstBoxCaption" + n, t.TekstBoxCaption, "&" + n, "Chr$(38)" + n);
-        s.Put("TekstBoxVisible" + n, t.TekstBoxVisible, true, "True");
-        s.Put("TekstBoxW" + n, t.TekstBoxW, 500 + base);
-        s.Put("TekstBoxH" + n, t.TekstBoxH, 700 + base);
-        s.Put("TekstBoxFontName" + n, t.TekstBoxFontName, "Text font" + n);
-        s.Put("TekstBoxFontSize" + n, t.TekstBoxFontSize, 20 + base);
-        s.Put("TekstBoxFontB" + n, t.TekstBoxFontB, first, first ? "True" : "False");
-        s.Put("TekstBoxFontU" + n, t.TekstBoxFontU, !first, first ? "False" : "True");
-        s.Put("TekstBoxFontI" + n, t.TekstBoxFontI, i == 42, i == 42 ? "True" : "False");
-        s.Put("TekstBoxTransparent" + n, t.TekstBoxTransparent, first, first ? "True" : "False",
-              first ? "-1" : "0");
-        s.Put("tekstBoxForeColor" + n, t.tekstBoxForeColor, "18" + std::to_string(i));
-        s.Put("tekstBoxBackColor" + n, t.tekstBoxBackColor, "19" + std::to_string(i));
-        s.Put("tekstBoxAlign" + n, t.tekstBoxAlign, "2" + n);
+        const std::string n = std::to_string(i);
+        d.ObjTekst[i] = {Short(i), 501,     "&" + n, true,   502,     503,     "F" + n, 20,
+                         i == 0,   i == 42, i == 99, i < 99, "f" + n, "b" + n, "a" + n};
+        golden.Add("TekstBoxX(@)=@|TekstBoxY(@)=501|TekstBoxCaption(@)=Chr$(38)@|"
+                   "TekstBoxVisible(@)=True|TekstBoxW(@)=502|TekstBoxH(@)=503|"
+                   "TekstBoxFontName(@)=F@|TekstBoxFontSize(@)=20|TekstBoxFontB(@)=^|"
+                   "TekstBoxFontU(@)=^|TekstBoxFontI(@)=^|TekstBoxTransparent(@)=<^>",
+                   i, {i == 0, i == 42, i == 99, i < 99});
+        golden.Add(i < 99 ? "{-1}|" : "{0}|");
+        golden.Add("tekstBoxForeColor(@)=f@|tekstBoxBackColor(@)=b@|tekstBoxAlign(@)=a@|", i);
     }
-    s.ConfigurationOnly("backpicOdnosx", d.Ratios.BackPictureRatioX, "1.25");
-    s.ConfigurationOnly("backpicOdnosy", d.Ratios.BackPictureRatioY, "1.5");
-    s.ConfigurationOnly("LogopicOdnosx", d.Ratios.LogoPictureRatioX, "0.75");
-    s.ConfigurationOnly("LogopicOdnosy", d.Ratios.LogoPictureRatioY, "2");
-
-    s.Section("Video");
+    d.Ratios = {"1.25", "1.5", "0.75", "2"};
+    golden.Add("{backpicOdnosx=1.25|backpicOdnosy=1.5|LogopicOdnosx=0.75|LogopicOdnosy=2|}"
+               "[Video]|");
     for (std::size_t i = 1; i <= 25; ++i) {
-        const Text n = std::to_string(i);
-        const int base = static_cast<int>(i);
-        VideoObject& v = d.Video[i];
-        s.Path("VideoFajl" + n, v.VideoFajl, "Z:\\films\\", "film" + n + ".avi");
-        s.Put("videoAutoplay" + n, v.videoAutoplay, i == 1, i == 1 ? "True" : "False");
-        s.Put("videoLeft" + n, v.videoLeft, 4000 + base);
-        s.Put("videoTop" + n, v.videoTop, 5000 + base);
-        s.Put("Volume" + n, v.Volume, base + 0.5, n + ".5");
-        s.Put("videorepeat" + n, v.videorepeat, i == 2, i == 2 ? "True" : "False");
+        d.Video[i] = {"Z:\\v\\" + std::to_string(i), i != 2, Short(i), 700, Short(i) + 0.5, i == 2};
+        golden.Add("VideoFajl@=<Z:\\v\\>@|videoAutoplay@=^|videoLeft@=@|videoTop@=700|Volume@=@.5|"
+                   "videorepeat@=^|",
+                   i, {i != 2, i == 2});
     }
 }
 
 } // namespace
 
-std::unique_ptr<FullProject> MakeFullProject(const std::string& buttonPicture,
-                                             const std::string& buttonPictureName) {
+std::unique_ptr<FullProject> MakeFullProject(const std::string& folder) {
     auto full = std::make_unique<FullProject>();
-    Script script(*full);
-    BaseAndTitles(script, full->document);
-    Commands(script, full->document);
-    SoundAndScreens(script, full->document);
-    Messages(script, full->document);
-    Canvas(script, full->document.NapredniSabloni, buttonPicture, buttonPictureName);
-    TextsAndVideos(script, full->document);
+    Golden golden(*full);
+    BaseAndTitles(golden, full->document);
+    Commands(golden, full->document);
+    SoundScreensAndEffects(golden, full->document);
+    MessagesAndShortcuts(golden, full->document);
+    Canvas(golden, full->document.NapredniSabloni, folder);
+    TextsAndVideos(golden, full->document);
     return full;
 }
 

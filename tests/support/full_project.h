@@ -7,17 +7,16 @@
 
 namespace tavmoor::test {
 
-/// A document in which every field of the two files holds a value of its own, and the text that
-/// each file must have for it, spelled out key by key.
+/// A document in which every field of the two files holds a value, and the text that each file must
+/// have for it, spelled out key by key.
 struct FullProject {
     ProjectDocument document;
     std::string projectText;
     std::string configurationText;
 };
 
-/// @param buttonPicture document path of a file that exists: the reader clears others
-/// @param buttonPictureName the name of that file alone
-std::unique_ptr<FullProject> MakeFullProject(const std::string& buttonPicture,
-                                             const std::string& buttonPictureName);
+/// @param folder document path of the folder in which the pictures of the buttons, "button.png",
+///        lie; no backslash at its end. The reader clears pictures that do not exist.
+std::unique_ptr<FullProject> MakeFullProject(const std::string& folder = "Z:\\art");
 
 } // namespace tavmoor::test

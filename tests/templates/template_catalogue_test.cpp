@@ -12,12 +12,16 @@ namespace tavmoor {
 
 namespace {
 
+using Texts = std::vector<std::string>;
+
 class TemplatesTest : public testing::Test {
 protected:
-    std::string Add(const std::string& name, const std::string& settings) {
-        return folder_.Write("Templates/" + name, settings);
+    std::string Add(const std::string& name, const std::string& bytes) {
+        return folder_.Write("Templates/" + name, bytes);
     }
-    std::string Named(const std::string& name) { return "[Template]\r\nName=" + name + "\r\n"; }
+    void AddNamed(const std::string& path, const std::string& name) {
+        folder_.Write(path, "[Template]\r\nName=" + name + "\r\n");
+    }
     TemplateCatalogue Catalogue() {
         return ReadTemplateCatalogue(TemplatesFolder(folder_.Document()));
     }
@@ -29,32 +33,28 @@ protected:
 
 TEST_F(TemplatesTest, AreFoundAtAnyDepthFilesOfAFolderFirst) {
     EXPECT_TRUE(Catalogue().paths.empty());
-    Add("a/b/c/deep.tavt", Named("Deep"));
-    Add("a/one.TAVT", Named("Same"));
-    Add("a/b/two.tavt", Named("Same"));
-    Add("top.tavt", Named("Top"));
-    Add("Advanced visual editor/Advanced visual editor.Atavt", Named("Editor"));
-    Add("a/readme.txt", Named("Text"));
-    Add("a/tavt", Named("No extension"));
+    AddNamed("Templates/a/b/c/deep.tavt", "Deep");
+    AddNamed("Templates/a/one.TAVT", "Same");
+    AddNamed("Templates/a/b/two.tavt", "Same");
+    AddNamed("Templates/top.tavt", "Top");
+    AddNamed("Templates/Advanced visual editor/Advanced visual editor.Atavt", "Editor");
+    AddNamed("Templates/a/tavt", "No extension");
     const TemplateCatalogue catalogue = Catalogue();
-    EXPECT_EQ(catalogue.names, (std::vector<std::string>{"Top", "Same", "Same", "Deep"}));
-    ASSERT_EQ(catalogue.paths.size(), 4U);
-    const std::string start = TemplatesFolder(folder_.Document());
-    EXPECT_EQ(start, folder_.Document() + "\\templates");
-    EXPECT_EQ(catalogue.paths[0], start + "\\top.tavt");
-    EXPECT_EQ(catalogue.paths[3], start + "\\a\\b\\c\\deep.tavt");
-    EXPECT_EQ(TemplateDisplayName(catalogue.paths[3]), "Deep");
+    EXPECT_EQ(catalogue.names, (Texts{"Top", "Same", "Same", "Deep"}));
+    const std::string start = folder_.Document() + "\\templates";
+    EXPECT_EQ(catalogue.paths, (Texts{start + "\\top.tavt", start + "\\a\\one.TAVT",
+                                      start + "\\a\\b\\two.tavt", start + "\\a\\b\\c\\deep.tavt"}));
     EXPECT_EQ(RowOfTemplate(catalogue, folder_.Document() + "\\Templates\\A\\B\\TWO.tavt"), 2U);
     EXPECT_EQ(RowOfTemplate(catalogue, start + "\\gone.tavt"), std::nullopt);
-    EXPECT_EQ(RowOfTemplate(catalogue, ""), std::nullopt);
+    EXPECT_EQ(RowOfTemplate({{"Blue"}, {"Z:\\\xC9\\b.tavt"}}, "Z:\\\xE9\\B.tavt"), 0U);
 }
 
 TEST_F(TemplatesTest, ADescriptorWithoutANameShiftsTheRows) {
     Add("nameless.tavt", "[Template]\r\ncommand number=3\r\n");
-    Add("sub/named.tavt", Named("Named"));
+    AddNamed("Templates/sub/named.tavt", "Named");
     const TemplateCatalogue catalogue = Catalogue();
     EXPECT_EQ(catalogue.paths.size(), 2U);
-    EXPECT_EQ(catalogue.names, std::vector<std::string>{"Named"});
+    EXPECT_EQ(catalogue.names, Texts{"Named"});
     const std::vector<TemplateInfo> named = NamedTemplates(catalogue);
     ASSERT_EQ(named.size(), 1U);
     EXPECT_EQ(named[0].name, "Named");
@@ -64,20 +64,15 @@ TEST_F(TemplatesTest, ADescriptorWithoutANameShiftsTheRows) {
 #ifndef _WIN32
 
 TEST_F(TemplatesTest, LinksThatLeadBackEndTheSearch) {
-    Add("a/one.tavt", Named("One"));
+    AddNamed("Templates/a/one.tavt", "One");
+    AddNamed("elsewhere/two.tavt", "Two");
     std::filesystem::create_directory_symlink("..", folder_.Native("Templates/a/back"));
     std::filesystem::create_symlink("nowhere", folder_.Native("Templates/dangling"));
     std::filesystem::create_directory(folder_.Native("Templates/back\\slash"));
-    folder_.Write("elsewhere/two.tavt", Named("Two"));
     std::filesystem::create_directory_symlink("../elsewhere", folder_.Native("Templates/link"));
-    std::vector<std::string> names = Catalogue().names;
+    Texts names = Catalogue().names;
     std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, (std::vector<std::string>{"One", "Two"}));
-}
-
-TEST_F(TemplatesTest, ARowIsFoundInAnyCaseOfItsPath) {
-    const TemplateCatalogue catalogue{{"Blue"}, {"Z:\\\xC9t\xC9\\blue.tavt"}};
-    EXPECT_EQ(RowOfTemplate(catalogue, "Z:\\\xE9t\xE9\\Blue.tavt"), 0U);
+    EXPECT_EQ(names, (Texts{"One", "Two"}));
 }
 
 #endif
@@ -91,20 +86,16 @@ TEST_F(TemplatesTest, SelectingBindsTheProjectAndNothingElse) {
     EXPECT_EQ(document->OsnovniPodaci.Glavninaslov, "New project...");
     document->OsnovniPodaci.Glavninaslov = "Mine";
     SelectEditorTemplate(*document, "Z:\\app");
-    EXPECT_EQ(document->OsnovnaPodesavanja.Sablon,
-              "Z:\\app\\Templates\\Advanced visual editor\\Advanced visual editor.Atavt");
-    EXPECT_EQ(document->Working.TemplateRuntimePath,
-              "Z:\\app\\Templates\\Advanced visual editor\\template.tavexe");
+    const std::string folder = "Z:\\app\\Templates\\Advanced visual editor\\";
+    EXPECT_EQ(document->OsnovnaPodesavanja.Sablon, folder + "Advanced visual editor.Atavt");
+    EXPECT_EQ(document->Working.TemplateRuntimePath, folder + "template.tavexe");
     EXPECT_EQ(document->Working.TemplateName, "ADVANCED VISUAL EDITOR");
-    EXPECT_EQ(EditorDisplayName, "Advanced Visual editor");
     EXPECT_EQ(document->OsnovniPodaci.Glavninaslov, "Mine");
 }
 
 TEST_F(TemplatesTest, ThePreviewIsTheFirstPictureThatHoldsSomething) {
     const std::string descriptor = Add("blue/blue.tavt", "");
-    const std::string folder = FolderOf(descriptor).data() == nullptr
-                                   ? ""
-                                   : std::string(FolderOf(descriptor)) + "\\";
+    const std::string folder = folder_.Document("Templates/blue") + "\\";
     EXPECT_EQ(ShowTemplatePreview(descriptor).descriptionPath, folder + "opis.rtf");
     EXPECT_EQ(ShowTemplatePreview(descriptor).picturePath, folder + "template.gif");
     Add("blue/template.jpg", "");
@@ -113,24 +104,18 @@ TEST_F(TemplatesTest, ThePreviewIsTheFirstPictureThatHoldsSomething) {
     EXPECT_EQ(ShowTemplatePreview(descriptor).picturePath, folder + "template.jpg");
 }
 
-TEST_F(TemplatesTest, TheEditorIsAcceptedForExactlyOne) {
-    for (const char* value : {"", "0", "2", "1 ", "01", "True"}) {
-        const std::string text = std::string("[Additional settings]\r\nEnable=") + value + "\r\n";
-        EXPECT_FALSE(TemplateAcceptsEditor(Add("t.tavt", text))) << value;
+TEST_F(TemplatesTest, TheDescriptorTellsWhatTheTemplateCan) {
+    for (const std::string value : {"", "0", "2", "1 ", "01", "True", "1"}) {
+        const std::string text = "[additional SETTINGS]\r\nenable=" + value + "\r\n";
+        EXPECT_EQ(TemplateAcceptsEditor(Add("t.tavt", text)), value == "1") << value;
     }
-    EXPECT_TRUE(TemplateAcceptsEditor(Add("t.tavt", "[additional SETTINGS]\nenable=1")));
     EXPECT_FALSE(TemplateAcceptsEditor(Add("t.tavt", "[Template]\r\nEnable=1\r\n")));
     EXPECT_FALSE(TemplateAcceptsEditor(folder_.Document("gone.tavt")));
-}
-
-TEST_F(TemplatesTest, TheCommandLimitIsTold) {
-    const auto limit = [this](const std::string& value) {
-        return ReadCommandLimit(Add("t.tavt", "[Template]\r\ncommand number=" + value + "\r\n"));
-    };
-    EXPECT_EQ(limit("24"), 24);
-    EXPECT_EQ(limit("0"), 0);
-    EXPECT_EQ(limit(""), 0);
-    EXPECT_EQ(limit("many"), 0);
+    const std::pair<const char*, int> limits[] = {{"24", 24}, {"0", 0}, {"", 0}, {"many", 0}};
+    for (const auto& [value, limit] : limits) {
+        const std::string text = std::string("[Template]\r\ncommand number=") + value + "\r\n";
+        EXPECT_EQ(ReadCommandLimit(Add("t.tavt", text)), limit) << value;
+    }
     EXPECT_EQ(ReadCommandLimit(folder_.Document("gone.tavt")), 0);
     EXPECT_EQ(CommandLimitText(8, "Hint."),
               "The templete you selected can have up to 8 additional commands.");

@@ -1,0 +1,79 @@
+#include "core/program_folder.h"
+#include "looks/looks.h"
+#include "window/menu_window.h"
+#include "window/shell_runner.h"
+#include "window/wide_text.h"
+
+#include <windows.h>
+
+#include <exception>
+#include <string>
+
+#include <objbase.h>
+
+namespace {
+
+constexpr int Failed = 1;
+
+/// The system libraries that the menu works with, for as long as it runs.
+class SystemLibraries {
+public:
+    SystemLibraries() {
+        // A disc that is taken out must not raise the system's own message boxes.
+        SetErrorMode(SEM_FAILCRITICALERRORS);
+        com_ = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&pictures_, &input, nullptr);
+    }
+    SystemLibraries(const SystemLibraries&) = delete;
+    SystemLibraries& operator=(const SystemLibraries&) = delete;
+    ~SystemLibraries() {
+        Gdiplus::GdiplusShutdown(pictures_);
+        if (SUCCEEDED(com_)) {
+            CoUninitialize();
+        }
+    }
+
+private:
+    HRESULT com_ = S_OK;
+    ULONG_PTR pictures_ = 0;
+};
+
+int ShowMenu(HINSTANCE instance, const std::filesystem::path& folder) {
+    const SystemLibraries libraries;
+    tavmoor::AutorunDisc disc(folder);
+    const tavmoor::Look look = tavmoor::TAVMOOR_LOOK();
+    tavmoor::ShellRunner runner;
+    tavmoor::MenuWindow menu(disc, look, runner);
+    if (!menu.Show(instance)) {
+        return Failed;
+    }
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+int Report(const std::wstring& title, const char* text) {
+    MessageBoxW(nullptr, tavmoor::Wide(text).c_str(), title.c_str(),
+                MB_OK | MB_ICONERROR | MB_SETFOREGROUND);
+    return Failed;
+}
+
+} // namespace
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, LPSTR /*commandLine*/,
+                   int /*show*/) {
+    std::wstring title = L"Autorun";
+    try {
+        const std::filesystem::path program = tavmoor::PlatformProgramFile();
+        if (program.has_stem()) {
+            title = program.stem().wstring();
+        }
+        return ShowMenu(instance, program.parent_path());
+    } catch (const std::exception& error) {
+        return Report(title, error.what());
+    }
+}

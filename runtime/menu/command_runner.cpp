@@ -1,0 +1,35 @@
+#include "menu/command_runner.h"
+
+namespace tavmoor {
+
+namespace {
+
+std::string FailureMessage(const std::string& what, const std::string& reason) {
+    return what.empty() ? reason : what + "\n\n" + reason;
+}
+
+} // namespace
+
+CommandOutcome RunCommand(const MenuCommand& command, std::string_view discFolder,
+                          const PathExists& exists, CommandRunner& runner) {
+    if (command.kind == CommandKind::Exit) {
+        return {true, {}};
+    }
+    const auto resolution = ResolveCommand(command, discFolder, exists);
+    if (const auto* refusal = std::get_if<CommandRefusal>(&resolution)) {
+        return {false, FailureMessage(command.target, refusal->reason)};
+    }
+    const StartRequest& request = std::get<StartRequest>(resolution);
+    std::string reason;
+    switch (runner.Start(request, reason)) {
+    case StartResult::Started:
+        return {command.closes, {}};
+    case StartResult::Failed:
+        return {false, FailureMessage(request.file, reason)};
+    case StartResult::Cancelled:
+        break;
+    }
+    return {};
+}
+
+} // namespace tavmoor

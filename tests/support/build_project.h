@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/project_document.h"
+#include "core/project_reset.h"
+#include "support/pe_image.h"
+#include "support/temporary_folder.h"
+
+#include <memory>
+
+namespace tavmoor::test {
+
+/// The bytes of a program whose version block names this company.
+inline std::string ProgramOf(std::u16string_view company) {
+    return MakePeImage(VersionResourceOf(company)).bytes;
+}
+
+/// A small project and all that a build of it needs, in a folder of its own: "disc", "work", the
+/// template with its program, a background and an icon.
+struct BuildProject {
+    TemporaryFolder folder;
+    std::unique_ptr<ProjectDocument> document =
+        std::make_unique<ProjectDocument>(NewProjectDocument());
+    std::string runtime = ProgramOf(u"Orlenta");
+
+    BuildProject() {
+        std::filesystem::create_directories(folder.Native("disc"));
+        std::filesystem::create_directories(folder.Native("work"));
+        folder.Write("template/template.tavexe", runtime);
+        document->OsnovnaPodesavanja.Sablon =
+            folder.Write("template/Blue.tavt", "[Template]\r\nName=Blue\r\n");
+        document->OsnovnaPodesavanja.GlavniDirektorijum = folder.Document("disc");
+        document->OsnovnaPodesavanja.PozadinskaSlika = folder.Write("art/back.bmp", "background");
+        document->OsnovniPodaci.Ikona = folder.Write("art/blue.ico", "icon");
+        document->OsnovniPodaci.Tasknaslov = "Holiday";
+    }
+
+    [[nodiscard]] std::set<std::string> NamesIn(const std::string& name) const {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.Native(name))) {
+            names.insert(entry.path().filename().string());
+        }
+        return names;
+    }
+
+    /// Gives the project this many films, which all go into the package.
+    void AddFilms(int count) const {
+        for (int i = 1; i <= count; ++i) {
+            const std::string name = "films/" + std::to_string(i) + ".avi";
+            document->Video[static_cast<std::size_t>(i)].VideoFajl = folder.Write(name, "film");
+        }
+    }
+};
+
+} // namespace tavmoor::test
