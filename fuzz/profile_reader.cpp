@@ -53,22 +53,41 @@ Model ReadPlainly(const std::string& text, std::size_t& entries) {
     return model;
 }
 
+/// Asks for all entries, each section by one look-up object, in the order of the file or against
+/// it.
+void CheckSections(const tavmoor::ProfileFile& file, const Model& model, bool forwards) {
+    std::map<std::string, tavmoor::ProfileFile::Section> sections;
+    auto entries = file.Entries();
+    if (!forwards) {
+        std::reverse(entries.begin(), entries.end());
+    }
+    for (const auto& [section, key, value] : entries) {
+        auto asked = sections.try_emplace(Lower(section), file.In(section)).first;
+        const std::string& first = model.at({Lower(section), Lower(key)});
+        Check(asked->second.Value(key) == first.substr(0, 1023),
+              "the order of asking is no matter");
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
     const tavmoor::ProfileFile file(text);
-    std::size_t entries = 0;
-    const Model model = ReadPlainly(text, entries);
-    Check(file.Entries().size() == entries, "each key=value line is an entry");
-    for (const auto& [section, key, value] : file.Entries()) {
+    std::size_t count = 0;
+    const Model model = ReadPlainly(text, count);
+    const auto entries = file.Entries();
+    Check(entries.size() == count, "each key=value line is an entry");
+    for (const auto& [section, key, value] : entries) {
         const auto first = model.find({Lower(section), Lower(key)});
         Check(first != model.end(), "an entry stands in the text");
-        Check(file.WholeValue(section, key) == first->second, "the first of duplicates wins");
-        Check(file.WholeValue(Upper(section), Upper(key)) == first->second, "case does not count");
-        Check(file.Value(section, key) == first->second.substr(0, 1023), "values are cut to 1023");
+        const std::string cut = first->second.substr(0, 1023);
+        Check(file.Value(section, key) == cut, "the first of duplicates wins, and is cut");
+        Check(file.Value(Upper(section), Upper(key)) == cut, "case does not count");
         const std::string other = std::string(key) + "\n";
-        Check(file.WholeValue(section, other).empty(), "a key that no line can have is missing");
+        Check(file.Value(section, other).empty(), "a key that no line can have is missing");
     }
+    CheckSections(file, model, true);
+    CheckSections(file, model, false);
     return 0;
 }

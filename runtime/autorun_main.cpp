@@ -1,6 +1,7 @@
 #include "core/program_folder.h"
 #include "looks/looks.h"
 #include "window/menu_window.h"
+#include "window/package_fonts.h"
 #include "window/shell_runner.h"
 #include "window/wide_text.h"
 
@@ -42,6 +43,7 @@ private:
 int ShowMenu(HINSTANCE instance, const std::filesystem::path& folder) {
     const SystemLibraries libraries;
     tavmoor::AutorunDisc disc(folder);
+    const tavmoor::PackageFonts fonts(disc);
     const tavmoor::Look look = tavmoor::TAVMOOR_LOOK();
     tavmoor::ShellRunner runner;
     tavmoor::MenuWindow menu(disc, look, runner);

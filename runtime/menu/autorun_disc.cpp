@@ -6,12 +6,16 @@
 #include "core/project_reset.h"
 #include "core/text_case.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tavmoor {
 
 namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* DamagedMenu = "The menu in the file Autorun.arn is damaged.";
 constexpr std::uint64_t MostConfigurationBytes = std::uint64_t{16} << 20U;
 constexpr std::uint64_t MostFileBytes = std::uint64_t{192} << 20U;
 
@@ -37,6 +41,12 @@ fs::path FindPackage(const fs::path& folder) {
     throw DiscError("The file Autorun.arn does not lie beside this program.");
 }
 
+bool IsFontFile(std::string_view name) {
+    constexpr std::array<std::string_view, 4> endings{".ttf", ".otf", ".ttc", ".fon"};
+    return std::any_of(endings.begin(), endings.end(),
+                       [&](std::string_view ending) { return EndsWithoutCase(name, ending); });
+}
+
 std::unique_ptr<PackageFile> OpenPackage(const fs::path& folder) {
     const fs::path path = FindPackage(folder);
     try {
@@ -52,7 +62,7 @@ std::string ReadConfiguration(PackageFile& package) {
         throw DiscError("The file Autorun.arn holds no menu.");
     }
     if (entry->size > MostConfigurationBytes) {
-        throw DiscError("The menu in the file Autorun.arn is damaged.");
+        throw DiscError(DamagedMenu);
     }
     try {
         return package.Read(*entry);
@@ -66,7 +76,11 @@ std::string ReadConfiguration(PackageFile& package) {
 AutorunDisc::AutorunDisc(fs::path folder)
     : folder_(std::move(folder)), package_(OpenPackage(folder_)),
       document_(std::make_unique<ProjectDocument>(NewProjectDocument())) {
-    ReadRuntimeConfiguration(ProfileFile(ReadConfiguration(*package_)), *document_);
+    const ProfileFile configuration(ReadConfiguration(*package_));
+    if (configuration.Entries().empty()) {
+        throw DiscError(DamagedMenu);
+    }
+    ReadRuntimeConfiguration(configuration, *document_);
 }
 
 std::optional<std::string> AutorunDisc::ReadFile(std::string_view name) {
@@ -79,6 +93,16 @@ std::optional<std::string> AutorunDisc::ReadFile(std::string_view name) {
     } catch (const PackageError&) {
         return std::nullopt;
     }
+}
+
+std::vector<std::string> AutorunDisc::FontFiles() const {
+    std::vector<std::string> names;
+    for (const PackageEntry& entry : package_->Entries()) {
+        if (IsFontFile(entry.name)) {
+            names.push_back(entry.name);
+        }
+    }
+    return names;
 }
 
 } // namespace tavmoor

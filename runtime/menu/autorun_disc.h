@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tavmoor {
 
@@ -32,6 +33,9 @@ public:
     /// The bytes of a file in the package; nothing when there is none of that name, when it is
     /// larger than a picture may be, or when it cannot be read.
     [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name);
+
+    /// The names of the font files in the package.
+    [[nodiscard]] std::vector<std::string> FontFiles() const;
 
 private:
     std::filesystem::path folder_;

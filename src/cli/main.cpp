@@ -29,10 +29,7 @@ public:
     }
 
     void Parse(std::vector<std::string> arguments) {
-        if (!arguments.empty() && arguments.front().rfind('-', 0) != 0 &&
-            app_.get_subcommand_no_throw(arguments.front()) == nullptr) {
-            throw CLI::ArgumentMismatch("there is no command \"" + arguments.front() + "\"");
-        }
+        RequireKnownCommand(arguments);
         std::reverse(arguments.begin(), arguments.end()); // the order that the parser wants
         app_.parse(std::move(arguments));
     }
@@ -52,6 +49,19 @@ public:
     [[nodiscard]] const ProjectDocument* OpenProject() const { return openProject_; }
 
 private:
+    void RequireKnownCommand(const std::vector<std::string>& arguments) {
+        if (arguments.empty() || arguments.front().starts_with('-')) {
+            return;
+        }
+        const std::string& name = arguments.front();
+        const auto isNamed = [&name](const CLI::App* command) {
+            return command->get_name() == name;
+        };
+        if (app_.get_subcommands(isNamed).empty()) {
+            throw CLI::ArgumentMismatch("there is no command \"" + name + "\"");
+        }
+    }
+
     static void AddProgramFolder(CLI::App* command, std::optional<std::string>& folder) {
         command->add_option("--program-folder", folder,
                             "The folder that a leading % in the project stands for");

@@ -10,7 +10,6 @@ namespace tavmoor {
 
 namespace {
 
-using Faults = std::vector<std::string>;
 using test::PackedFile;
 
 class OutputCheckTest : public testing::Test {
@@ -21,29 +20,32 @@ protected:
         const BuildRequest request{"start", project_.folder.Document("work"), false};
         ASSERT_EQ(BuildAutorun(document_, request, silent), BuildOutcome::Built);
         const std::string package = project_.folder.Read("disc/Autorun.arn");
-        configuration_ = package.substr(package.find("[Osnovna podesavanja]"));
-        configuration_.resize(configuration_.size() - std::string("backgroundicon").size());
+        const std::size_t start = package.find("[Osnovna podesavanja]");
+        configuration_ = package.substr(start, package.rfind("backgroundicon") - start);
     }
 
-    /// Changes a file of the disc, or removes it, and tells what the check says then.
-    Faults FaultsWith(const std::string& name, const char* bytes) {
+    /// The faults found, each with a line end.
+    [[nodiscard]] std::string Faults() const {
+        std::string faults;
+        for (const std::string& fault : FaultsOfPlacedOutput(document_)) {
+            faults += fault + "\n";
+        }
+        return faults;
+    }
+    /// The same after a file of the disc was changed, or removed for nullptr.
+    [[nodiscard]] std::string FaultsWith(const std::string& name, const char* bytes) const {
         const std::string kept = project_.folder.Read("disc/" + name);
         std::filesystem::remove(project_.folder.Native("disc/" + name));
         if (bytes != nullptr) {
             project_.folder.Write("disc/" + name, bytes);
         }
-        Faults faults = FaultsOfPlacedOutput(document_);
+        std::string faults = Faults();
         project_.folder.Write("disc/" + name, kept);
         return faults;
     }
-
-    Faults FaultsWithPackage(const std::vector<PackedFile>& files) {
+    [[nodiscard]] std::string FaultsWith(const std::vector<PackedFile>& files) const {
         project_.folder.Write("disc/Autorun.arn", PackageBytes(files));
-        return FaultsOfPlacedOutput(document_);
-    }
-
-    [[nodiscard]] std::string Disc(const std::string& name) const {
-        return project_.folder.Document("disc") + "\\" + name;
+        return Faults();
     }
 
     test::BuildProject project_;
@@ -54,56 +56,53 @@ protected:
 } // namespace
 
 TEST_F(OutputCheckTest, TellsWhichFileIsNotAsBuilt) {
-    EXPECT_EQ(FaultsOfPlacedOutput(document_), Faults{});
     const std::string program = "the template's program " + document_.Working.TemplateRuntimePath;
-    const std::string icon = "the icon " + document_.OsnovniPodaci.Ikona;
-    EXPECT_EQ(FaultsWith("start.exe", nullptr), Faults{Disc("start.exe was not placed.")});
-    EXPECT_EQ(FaultsWith("start.exe", "MZ"),
-              Faults{Disc("start.exe differs from " + program + ".")});
-    EXPECT_EQ(FaultsWith("Autorun.ico", nullptr), Faults{Disc("Autorun.ico was not placed.")});
-    EXPECT_EQ(FaultsWith("Autorun.ico", "ico"),
-              Faults{Disc("Autorun.ico differs from " + icon + ".")});
-    EXPECT_EQ(FaultsWith("Autorun.inf", nullptr), Faults{Disc("Autorun.inf was not placed.")});
-    EXPECT_EQ(FaultsWith("Autorun.inf", "[Autorun]\r\nOpen=old.exe\r\n"),
-              Faults{Disc("Autorun.inf differs from what was written.")});
-    EXPECT_EQ(FaultsWith("Autorun.arn", nullptr).size(), 1U);
-    EXPECT_EQ(FaultsWith("Autorun.arn", "").size(), 1U);
-    EXPECT_EQ(FaultsOfPlacedOutput(document_), Faults{});
-
+    const std::string disc = project_.folder.Document("disc") + "\\";
+    const std::string differs[][2] = {{"start.exe", program},
+                                      {"Autorun.ico", "the icon " + document_.OsnovniPodaci.Ikona},
+                                      {"Autorun.inf", "what was written"}};
+    for (const auto& [name, origin] : differs) {
+        EXPECT_EQ(FaultsWith(name, nullptr), disc + name + " was not placed.\n");
+        EXPECT_EQ(FaultsWith(name, "MZ"), disc + name + " differs from " + origin + ".\n");
+    }
+    EXPECT_TRUE(FaultsWith("Autorun.arn", nullptr).starts_with(disc + "Autorun.arn is damaged: "));
+    EXPECT_TRUE(FaultsWith("Autorun.arn", "").starts_with(disc + "Autorun.arn is damaged: "));
+    EXPECT_EQ(Faults(), "");
     std::filesystem::remove(project_.folder.Native("template/template.tavexe"));
-    EXPECT_EQ(FaultsOfPlacedOutput(document_), Faults{program + " is missing."});
+    EXPECT_EQ(Faults(), program + " is missing.\n");
     document_.OsnovniPodaci.Ikona = "";
-    EXPECT_EQ(FaultsOfPlacedOutput(document_).size(), 4U) << "icon left, inf, package and program";
+    EXPECT_NE(Faults().find(disc + "Autorun.ico of an earlier build is still there.\n"),
+              std::string::npos);
 }
 
 TEST_F(OutputCheckTest, LooksIntoThePackage) {
     const PackedFile first{"tavmoor.cfg", configuration_};
     const PackedFile back{"back.bmp", "background"};
     const PackedFile icon{"blue.ico", "icon"};
-    EXPECT_EQ(FaultsWithPackage({first, back, icon}), Faults{});
-    const std::string files = Disc("Autorun.arn does not hold the project's files.");
-    EXPECT_EQ(FaultsWithPackage({first, icon, back}), Faults{files});
-    EXPECT_EQ(FaultsWithPackage({first, back}), Faults{files});
-    EXPECT_EQ(FaultsWithPackage({}), Faults{files});
-    EXPECT_EQ(FaultsWithPackage({first, {"back.bmp", "short"}, icon}), Faults{files});
+    EXPECT_EQ(FaultsWith({first, back, icon}), "");
+    const std::string package = project_.folder.Document("disc") + "\\Autorun.arn does not hold ";
+    const std::vector<PackedFile> others[] = {
+        {first, icon, back}, {first, back}, {}, {first, {"back.bmp", "short"}, icon}};
+    for (const auto& files : others) {
+        EXPECT_EQ(FaultsWith(files), package + "the project's files.\n");
+    }
     std::string older = configuration_;
     older[older.find("Holiday")] = 'X';
-    EXPECT_EQ(FaultsWithPackage({{"tavmoor.cfg", older}, back, icon}),
-              Faults{Disc("Autorun.arn does not hold the project's configuration.")});
+    EXPECT_EQ(FaultsWith({{"tavmoor.cfg", older}, back, icon}),
+              package + "the project's configuration.\n");
 }
 
-TEST_F(OutputCheckTest, FindsAnOlderPackageWhosePictureHasAnotherContent) {
-    EXPECT_EQ(
-        FaultsWithPackage(
-            {{"tavmoor.cfg", configuration_}, {"back.bmp", "BACKGROUND"}, {"blue.ico", "icon"}})
-            .size(),
-        1U);
-}
-
-TEST_F(OutputCheckTest, FindsAnOlderAutorunThatCouldNotBeDeleted) {
-    project_.folder.Write("disc/old.exe", project_.runtime);
+TEST_F(OutputCheckTest, FindsWhatAnEarlierBuildLeft) {
+    EXPECT_NE(FaultsWith({{"tavmoor.cfg", configuration_},
+                          {"back.bmp", "BACKGROUND"},
+                          {"blue.ico", "icon"}}),
+              "")
+        << "a picture of the same size and another content";
+    SetUp();
     project_.folder.Write("disc/setup.exe", test::ProgramOf(u"Northlight"));
-    EXPECT_EQ(FaultsOfPlacedOutput(document_).size(), 1U);
+    EXPECT_EQ(Faults(), "");
+    project_.folder.Write("disc/old.exe", project_.runtime);
+    EXPECT_NE(Faults(), "") << "a second autorun program";
 }
 
 } // namespace tavmoor

@@ -6,132 +6,112 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace tavmoor {
 
 namespace {
 
 using Kind = FindingKind;
 
+/// Keys with their section, "Uvod/Poruka", and their values.
+using Values = std::vector<std::pair<std::string, std::string>>;
+using Found = std::vector<std::pair<Kind, std::string>>;
+
 class ProjectCheckTest : public testing::Test {
 protected:
-    /// The lines of a project in which nothing is wrong, changed: a key that stands there already
-    /// takes the value, another one is added to its section.
-    std::vector<Finding>
-    FindingsWith(const std::vector<std::pair<std::string, std::string>>& changes) {
-        std::map<std::string, std::map<std::string, std::string>> sections = good_;
-        for (const auto& [place, value] : changes) {
-            const std::size_t slash = place.find('/');
-            sections[place.substr(0, slash)][place.substr(slash + 1)] = value;
-        }
+    /// Kinds and subjects of what is found in a good project with other values; of a key that
+    /// stands twice in a file the first counts.
+    [[nodiscard]] Found FindingsWith(Values values) const {
+        const Values good{{"Osnovna podesavanja/Glavni direktorijum", folder_.Document("disc")},
+                          {"Osnovna podesavanja/Sablon", "%template\\Blue.tavt"},
+                          {"Osnovna podesavanja/Pozadinska slika", "%art\\back.bmp"},
+                          {"Osnovni podaci/exename", "start.exe"},
+                          {"Napredni sabloni/DugmePictureFile(2)", "%art\\back.bmp"}};
+        values.insert(values.end(), good.begin(), good.end());
         std::string text;
-        for (const auto& [section, keys] : sections) {
-            text += "[" + section + "]\r\n";
-            for (const auto& [key, value] : keys) {
-                text += key + "=" + value + "\r\n";
-            }
+        for (const auto& [place, value] : values) {
+            const std::size_t slash = place.find('/');
+            text += "[" + place.substr(0, slash) + "]\r\n";
+            text += place.substr(slash + 1) + "=" + value + "\r\n";
         }
         const ProfileFile file(text);
         const auto document = std::make_unique<ProjectDocument>(NewProjectDocument());
         class Silent final : public ProjectReaderListener {
         } silent;
-        ReadProjectFrom(file, *document, project_.folder.Document(), silent);
+        ReadProjectFrom(file, *document, folder_.Document(), silent);
         MakeButtonsLive(*document, ButtonRowsIn(file));
-        return CheckProject(*document, file, project_.folder.Document());
+        Found found;
+        for (const Finding& finding : CheckProject(*document, file, folder_.Document())) {
+            found.emplace_back(finding.kind, finding.subject);
+            EXPECT_TRUE(finding.text.ends_with(".")) << finding.text;
+        }
+        return found;
     }
 
     test::BuildProject project_;
-    std::map<std::string, std::map<std::string, std::string>> good_{
-        {"Osnovna podesavanja",
-         {{"Glavni direktorijum", project_.folder.Document("disc")},
-          {"Sablon", "%template\\Blue.tavt"},
-          {"Pozadinska slika", "%art\\back.bmp"}}},
-        {"Osnovni podaci",
-         {{"exename", "start.exe"}, {"Ikona", project_.document->OsnovniPodaci.Ikona}}},
-        {"Napredni sabloni", {{"DugmePictureFile(2)", "%art\\back.bmp"}}}};
+    const test::TemporaryFolder& folder_ = project_.folder;
 };
 
 } // namespace
 
 TEST_F(ProjectCheckTest, FindsEachKindOfFault) {
-    EXPECT_EQ(FindingsWith({}).size(), 0U);
-    const test::TemporaryFolder& folder = project_.folder;
     const std::string disc = "Osnovna podesavanja/Glavni direktorijum";
     const std::string descriptor = "Osnovna podesavanja/Sablon";
     const std::string name = "Osnovni podaci/exename";
     const std::string logo = "Osnovni podaci/Logoslika";
-    const std::string gone = folder.Document("gone.tavt");
-    const std::string bare = folder.Write("bare/Bare.tavt", "[Template]\r\nName=Bare\r\n");
-    const std::string empty = folder.Write("art/empty.gif", "");
-    const std::string foreign = folder.Document("art") + "\\caf\xE9.gif";
+    const std::string button = "Napredni sabloni/DugmePictureFile(7)";
+    const std::string gone = folder_.Document("template") + "\\gone";
+    const std::string bare = folder_.Write("bare/Bare.tavt", "[Template]\r\nName=Bare\r\n");
+    const std::string empty = folder_.Write("art/empty.gif", "");
+    const std::string foreign = folder_.Document("art") + "\\caf\xE9.gif";
     std::ofstream(NativePath(foreign)) << "x";
-    const std::string twin = folder.Write("other/BACK.bmp", "another");
-    const std::string own = folder.Write("other/Tavmoor.cfg", "x");
-    struct Case {
-        std::vector<std::pair<std::string, std::string>> changes;
-        std::vector<std::pair<Kind, std::string>> findings;
-    };
-    const std::string bareRuntime = folder.Document("bare") + "\\template.tavexe";
-    const Case cases[] = {
-        {{{disc, ""}}, {{Kind::FolderMissing, ""}}},
+    const std::string twin = folder_.Write("other/BACK.bmp", "another");
+    const std::string own = folder_.Write("other/Tavmoor.cfg", "x");
+    const std::pair<Values, Found> cases[] = {
+        {{}, {}},
+        {{{disc, ""}}, {}},
         {{{disc, twin}}, {{Kind::FolderMissing, twin}}},
-        {{{descriptor, ""}}, {{Kind::NoTemplate, ""}}},
-        {{{descriptor, folder.Document("template") + "\\gone.tavt"}},
-         {{Kind::DescriptorMissing, folder.Document("template") + "\\gone.tavt"}}},
-        {{{descriptor, bare}}, {{Kind::RuntimeMissing, bareRuntime}}},
+        {{{descriptor, gone}}, {{Kind::DescriptorMissing, gone}}},
+        {{{descriptor, bare}},
+         {{Kind::RuntimeMissing, folder_.Document("bare") + "\\template.tavexe"}}},
         {{{name, "my app.exe"}}, {{Kind::NameInvalid, "my app"}}},
-        {{{name, ""}, {"Osnovni podaci/Tasknaslov", "My app"}}, {{Kind::NameInvalid, "My app"}}},
-        {{{name, ""}}, {{Kind::NameInvalid, ""}}},
         {{{logo, gone}}, {{Kind::FileMissing, gone}}},
-        {{{logo, folder.Document("art")}}, {{Kind::FileMissing, folder.Document("art")}}},
+        {{{logo, folder_.Document("art")}}, {{Kind::FileMissing, folder_.Document("art")}}},
         {{{"Fontovi/Font0", gone}}, {{Kind::FileMissing, gone}}},
-        {{{"Napredni sabloni/DugmePictureFile(7)", gone}}, {{Kind::FileMissing, gone}}},
+        {{{button, gone}}, {{Kind::FileMissing, gone}}},
         {{{logo, empty}}, {{Kind::FileEmpty, empty}}},
-        {{{"Napredni sabloni/DugmePictureFile(7)", empty}}, {{Kind::FileEmpty, empty}}},
+        {{{button, empty}}, {{Kind::FileEmpty, empty}}},
         {{{logo, foreign}}, {{Kind::NameNotScramblable, foreign}}},
         {{{logo, twin}}, {{Kind::SameName, twin}}},
         {{{logo, own}}, {{Kind::SameName, own}}},
         {{{"Uvod/Poruka", std::string(1023, 'x')}}, {}},
         {{{"Uvod/Poruka", std::string(1024, 'x')}}, {{Kind::ValueTooLong, "[Uvod] Poruka"}}},
-        {{{disc, ""}, {logo, gone}}, {{Kind::FolderMissing, ""}, {Kind::FileMissing, gone}}},
+        {{{disc, gone}, {logo, gone}}, {{Kind::FolderMissing, gone}, {Kind::FileMissing, gone}}},
     };
-    for (const Case& wanted : cases) {
-        std::vector<std::pair<Kind, std::string>> found;
-        for (const Finding& finding : FindingsWith(wanted.changes)) {
-            found.emplace_back(finding.kind, finding.subject);
-            EXPECT_TRUE(finding.text.ends_with(".")) << finding.text;
-        }
-        EXPECT_EQ(found, wanted.findings);
+    for (const auto& [values, findings] : cases) {
+        EXPECT_EQ(FindingsWith(values), findings);
     }
 }
 
 TEST_F(ProjectCheckTest, CountsTheFilesThatABuildWouldPack) {
     project_.AddFilms(18);
-    std::vector<std::pair<std::string, std::string>> films;
+    Values films;
     for (std::size_t i = 1; i <= 17; ++i) {
         films.emplace_back("Video/VideoFajl" + std::to_string(i),
                            project_.document->Video[i].VideoFajl);
     }
-    EXPECT_EQ(FindingsWith(films).size(), 0U);
+    films.emplace_back("Fontovi/Font0", folder_.Write("serif.ttf", "font"));
+    EXPECT_EQ(FindingsWith(films), Found{});
     films.emplace_back("Video/VideoFajl18", project_.document->Video[18].VideoFajl);
-    const auto findings = FindingsWith(films);
-    ASSERT_EQ(findings.size(), 1U);
-    EXPECT_EQ(findings.front().kind, Kind::TooManyFiles);
-    EXPECT_EQ(findings.front().subject, project_.document->Video[18].VideoFajl);
+    EXPECT_EQ(FindingsWith(films), (Found{{Kind::TooManyFiles, folder_.Document("serif.ttf")}}));
 }
 
 TEST_F(ProjectCheckTest, FindsBytesThatTheCodePageDoesNotKnow) {
     const int number = SystemCodePage().Number();
     SetSystemCodePage(1252);
-    const auto fine = FindingsWith({{"Uvod/Poruka", "caf\xE9 \x80"}});
-    const auto findings = FindingsWith({{"Uvod/Poruka", "a\x81"}});
+    EXPECT_EQ(FindingsWith({{"Uvod/Poruka", "caf\xE9 \x80"}}), Found{});
+    EXPECT_EQ(FindingsWith({{"Uvod/Poruka", "a\x81"}}),
+              (Found{{Kind::UndefinedCharacter, "[Uvod] Poruka"}}));
     SetSystemCodePage(number);
-    EXPECT_EQ(fine.size(), 0U);
-    ASSERT_EQ(findings.size(), 1U);
-    EXPECT_EQ(findings.front().kind, Kind::UndefinedCharacter);
-    EXPECT_EQ(findings.front().text,
-              "[Uvod] Poruka has a character that code page 1252 does not know.");
 }
 
 } // namespace tavmoor

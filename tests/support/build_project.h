@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/project_document.h"
 #include "core/project_reset.h"
 #include "support/pe_image.h"
 #include "support/temporary_folder.h"
@@ -12,6 +11,19 @@ namespace tavmoor::test {
 /// The bytes of a program whose version block names this company.
 inline std::string ProgramOf(std::u16string_view company) {
     return MakePeImage(VersionResourceOf(company)).bytes;
+}
+
+/// The names in a folder in order, with a blank between them.
+inline std::string Listing(const std::filesystem::path& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        names.insert(entry.path().filename().string());
+    }
+    std::string listing;
+    for (const std::string& name : names) {
+        listing += (listing.empty() ? "" : " ") + name;
+    }
+    return listing;
 }
 
 /// A small project and all that a build of it needs, in a folder of its own: "disc", "work", the
@@ -26,27 +38,17 @@ struct BuildProject {
         std::filesystem::create_directories(folder.Native("disc"));
         std::filesystem::create_directories(folder.Native("work"));
         folder.Write("template/template.tavexe", runtime);
-        document->OsnovnaPodesavanja.Sablon =
-            folder.Write("template/Blue.tavt", "[Template]\r\nName=Blue\r\n");
+        document->OsnovnaPodesavanja.Sablon = folder.Write("template/Blue.tavt", "[Template]");
         document->OsnovnaPodesavanja.GlavniDirektorijum = folder.Document("disc");
         document->OsnovnaPodesavanja.PozadinskaSlika = folder.Write("art/back.bmp", "background");
         document->OsnovniPodaci.Ikona = folder.Write("art/blue.ico", "icon");
         document->OsnovniPodaci.Tasknaslov = "Holiday";
     }
 
-    [[nodiscard]] std::set<std::string> NamesIn(const std::string& name) const {
-        std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder.Native(name))) {
-            names.insert(entry.path().filename().string());
-        }
-        return names;
-    }
-
     /// Gives the project this many films, which all go into the package.
-    void AddFilms(int count) const {
-        for (int i = 1; i <= count; ++i) {
-            const std::string name = "films/" + std::to_string(i) + ".avi";
-            document->Video[static_cast<std::size_t>(i)].VideoFajl = folder.Write(name, "film");
+    void AddFilms(std::size_t count) const {
+        for (std::size_t i = 1; i <= count; ++i) {
+            document->Video[i].VideoFajl = folder.Write(std::to_string(i) + ".avi", "film");
         }
     }
 };

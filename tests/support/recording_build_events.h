@@ -4,22 +4,21 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace tavmoor::test {
 
-/// Writes down what a build tells, in its order, and lets a test look or meddle at each moment.
+/// Writes down what a build tells, one line for each, and lets a test look or meddle meanwhile.
 class RecordingBuildEvents final : public BuildEvents {
 public:
-    std::vector<std::string> log;
-    std::function<void(const std::string& entry)> onEntry = [](const std::string&) {};
+    std::string log;
+    /// Takes each line before it is written down, and gives it back, changed at will.
+    std::function<std::string(std::string line)> onLine = [](std::string line) { return line; };
 
     void Status(std::string_view text) override { Add("status " + std::string(text)); }
     void ShowMessage(std::string_view text, std::string_view title,
                      BuildMessageKind kind) override {
-        const std::string mark = kind == BuildMessageKind::Critical ? "critical" : "message";
-        Add(mark + " [" + std::string(title) + "] " + std::string(text));
+        const char* mark = kind == BuildMessageKind::Critical ? "critical [" : "message [";
+        Add(mark + std::string(title) + "] " + std::string(text));
     }
     void ColourName(ColorValue colour) override { Add("colour " + std::to_string(colour)); }
     void ReplaceName(std::string_view name) override { Add("name " + std::string(name)); }
@@ -37,10 +36,7 @@ public:
     void StartAutorun(std::string_view path) override { Add("start " + std::string(path)); }
 
 private:
-    void Add(const std::string& entry) {
-        log.push_back(entry);
-        onEntry(entry);
-    }
+    void Add(std::string line) { log += onLine(std::move(line)) + "\n"; }
 };
 
 } // namespace tavmoor::test
