@@ -18,6 +18,7 @@ namespace tavmoor {
 namespace {
 
 namespace fs = std::filesystem;
+using test::Listing;
 using test::ProgramOf;
 
 class BuildDriverTest : public testing::Test {
@@ -107,7 +108,7 @@ TEST_F(BuildDriverTest, PlacesTheFourFiles) {
     const auto& entries = package.Entries();
     ASSERT_EQ(entries.size(), 3U);
     const ProfileFile configuration(package.Read(entries[0]));
-    EXPECT_EQ(configuration.Value("Uvod", "Vreme") , "5");
+    EXPECT_EQ(configuration.Value("Uvod", "Vreme"), "5");
     EXPECT_EQ(configuration.Value("Izlaz", "Vreme"), "5");
     EXPECT_EQ(document_.Uvod.Vreme + document_.Izlaz.Vreme, "55") << "the project keeps them";
     EXPECT_EQ(entries[1].name + "=" + package.Read(entries[1]), "back.bmp=background");
@@ -194,7 +195,8 @@ TEST_F(BuildDriverTest, AProgramThatStaysIsOverwrittenByTheAutorunOfItsName) {
 }
 
 TEST_F(BuildDriverTest, WithoutTheTemplatesProgramTheRestIsPlaced) {
-    for (const std::string& descriptor : {project_.folder.Document("gone/Blue.tavt"), std::string()}) {
+    for (const std::string& descriptor :
+         {project_.folder.Document("gone/Blue.tavt"), std::string()}) {
         document_.OsnovnaPodesavanja.Sablon = descriptor;
         PutOnDisc("old.exe", project_.runtime);
         EXPECT_EQ(Build(), "built");
@@ -242,9 +244,12 @@ TEST_F(BuildDriverTest, WorksOnlyInAFolderOfTheUsersOwn) {
     fs::create_directory_symlink(project_.folder.Native("theirs"), project_.folder.Native("link"));
     request_.buildFolder = project_.folder.Document("link");
     EXPECT_EQ(Build(), denied + "link\\");
+    request_.buildFolder = project_.folder.Document("theirs");
+    fs::permissions(project_.folder.Native("theirs"), fs::perms::all);
+    EXPECT_EQ(Build(), denied + "theirs\\");
     if (geteuid() == 0) {
+        fs::permissions(project_.folder.Native("theirs"), fs::perms::owner_all);
         ASSERT_EQ(chown(project_.folder.Native("theirs").c_str(), 12345, 12345), 0);
-        request_.buildFolder = project_.folder.Document("theirs");
         EXPECT_EQ(Build(), denied + "theirs\\");
     }
     EXPECT_EQ(Listing(project_.folder.Native("theirs")), "autorun.arn");

@@ -49,9 +49,11 @@ protected:
     /// Packs files "a" and "b c" of these sizes.
     std::string Write(std::size_t first, std::size_t second) {
         list_ = {folder_.Write("a", Content(first)), folder_.Write("x/b c", Content(second))};
-        EXPECT_EQ(WritePackage(list_, folder_.Document(), events_),
-                  fs::file_size(folder_.Native("autorun.arn")));
-        return folder_.Read("autorun.arn");
+        const BuiltPackage built = WritePackage(list_, folder_.Document(), events_);
+        std::string package = folder_.Read("autorun.arn");
+        EXPECT_EQ(package.size(), built.length);
+        EXPECT_TRUE(package.starts_with(built.head) && built.head.ends_with("[Kraj]\r\n\r\n"));
+        return package;
     }
 
     int ErrorOfWrite() {

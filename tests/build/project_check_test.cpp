@@ -68,12 +68,14 @@ TEST_F(ProjectCheckTest, FindsEachKindOfFault) {
     const std::string own = folder_.Write("other/Tavmoor.cfg", "x");
     const std::pair<Values, Found> cases[] = {
         {{}, {}},
-        {{{disc, ""}}, {}},
+        {{{disc, ""}}, {{Kind::FolderMissing, ""}}},
         {{{disc, twin}}, {{Kind::FolderMissing, twin}}},
+        {{{descriptor, ""}}, {{Kind::NoTemplate, ""}}},
         {{{descriptor, gone}}, {{Kind::DescriptorMissing, gone}}},
         {{{descriptor, bare}},
          {{Kind::RuntimeMissing, folder_.Document("bare") + "\\template.tavexe"}}},
         {{{name, "my app.exe"}}, {{Kind::NameInvalid, "my app"}}},
+        {{{name, ""}}, {{Kind::NameInvalid, ""}}},
         {{{logo, gone}}, {{Kind::FileMissing, gone}}},
         {{{logo, folder_.Document("art")}}, {{Kind::FileMissing, folder_.Document("art")}}},
         {{{"Fontovi/Font0", gone}}, {{Kind::FileMissing, gone}}},

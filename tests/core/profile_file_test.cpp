@@ -45,8 +45,8 @@ TEST(ProfileFile, CutsAValueBehind1023Characters) {
 }
 
 TEST(ProfileFile, ReadsAnyBytesAndMissingFiles) {
-    const std::string bytes("\xFF[S]\n[open\nk=1\n]=2\n[a][b]\nk\0=3\nk=\x80\0z\n\n\r\n=", 43);
-    const ProfileFile file(bytes);
+    using namespace std::string_literals;
+    const ProfileFile file("\xFF[S]\n[open\nk=1\n]=2\n[a][b]\nk\0=3\nk=\x80\0z\n\n\r\n="s);
     EXPECT_EQ(file.Value("", "k"), "1"); // no section line came before it
     EXPECT_EQ(file.Value("a", "k"), std::string_view("\x80\0z", 3));
     EXPECT_EQ(file.Value("a", std::string_view("k\0", 2)), "3");

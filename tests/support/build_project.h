@@ -37,6 +37,7 @@ struct BuildProject {
     BuildProject() {
         std::filesystem::create_directories(folder.Native("disc"));
         std::filesystem::create_directories(folder.Native("work"));
+        std::filesystem::permissions(folder.Native("work"), std::filesystem::perms::owner_all);
         folder.Write("template/template.tavexe", runtime);
         document->OsnovnaPodesavanja.Sablon = folder.Write("template/Blue.tavt", "[Template]");
         document->OsnovnaPodesavanja.GlavniDirektorijum = folder.Document("disc");

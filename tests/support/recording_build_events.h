@@ -11,6 +11,7 @@ namespace tavmoor::test {
 class RecordingBuildEvents final : public BuildEvents {
 public:
     std::string log;
+    BuiltPackage package;
     /// Takes each line before it is written down, and gives it back, changed at will.
     std::function<std::string(std::string line)> onLine = [](std::string line) { return line; };
 
@@ -29,6 +30,7 @@ public:
     void PackageProgress(std::uint64_t done, std::uint64_t total) override {
         Add("packed " + std::to_string(done) + "/" + std::to_string(total));
     }
+    void PackageWritten(const BuiltPackage& written) override { package = written; }
     void LetEventsRun() override { Add("events"); }
     void Wait(std::chrono::milliseconds time) override {
         Add("wait " + std::to_string(time.count()));
