@@ -111,11 +111,7 @@ private:
         events_.ColourName(AcceptedNameColour);
         document_.OsnovniPodaci.exename = request_.name + std::string(ProgramExtension);
         events_.EnableBuild(false);
-        for (ScreenSpec* screen : {&document_.Izlaz, &document_.Uvod}) {
-            if (screen->Vreme.empty()) {
-                screen->Vreme = "5";
-            }
-        }
+        FillScreenTimes(document_);
     }
 
     bool PrepareFiles() {
@@ -160,10 +156,11 @@ private:
     /// Nothing of the build folder is needed afterwards, so that files are moved where they can be.
     void PlaceOutput() {
         DeleteMarkedPrograms(cdFolder_);
-        for (const std::string_view name :
-             {package_format::PackageName, IconName, std::string_view("Autorun.inf")}) {
-            DeleteFileIgnoringErrors(Placed(name));
+        DeleteFileIgnoringErrors(Placed(package_format::PackageName));
+        if (!SamePath(document_.OsnovniPodaci.Ikona, Placed(IconName))) {
+            DeleteFileIgnoringErrors(Placed(IconName)); // else it is the author's only copy
         }
+        DeleteFileIgnoringErrors(Placed("Autorun.inf"));
         events_.Wait(PlacingWait);
         MoveFileIgnoringErrors(Built(ProgramName()), Placed(ProgramName()));
         events_.Wait(PlacingWait);
@@ -225,6 +222,14 @@ std::string InitialAutorunName(const ProjectDocument& document) {
 BuildOutcome BuildAutorun(ProjectDocument& document, const BuildRequest& request,
                           BuildEvents& events) {
     return Build(document, request, events).Run();
+}
+
+void FillScreenTimes(ProjectDocument& document) {
+    for (ScreenSpec* screen : {&document.Izlaz, &document.Uvod}) {
+        if (screen->Vreme.empty()) {
+            screen->Vreme = "5";
+        }
+    }
 }
 
 std::vector<std::string> PackageFileList(const ProjectDocument& document,

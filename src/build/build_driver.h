@@ -36,6 +36,9 @@ std::string InitialAutorunName(const ProjectDocument& document);
 BuildOutcome BuildAutorun(ProjectDocument& document, const BuildRequest& request,
                           BuildEvents& events);
 
+/// Gives the splash and the exit screen their 5 seconds where no time is set.
+void FillScreenTimes(ProjectDocument& document);
+
 /// All files of the package in order, with the configuration as the first and the fonts last;
 /// empty paths and duplicates are left out.
 /// @param withFonts false gives the list that is checked before the fonts join it

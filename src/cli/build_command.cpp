@@ -48,6 +48,12 @@ public:
             PrintPercentage(percent);
         }
     }
+    /// The way out on an interrupt is that of every failure, so that no working file stays.
+    void LetEventsRun() override {
+        if (IsInterrupted()) {
+            throw CommandFailure("interrupted");
+        }
+    }
     void PackageWritten(const BuiltPackage& package) override { package_ = package; }
     void StartAutorun(std::string_view path) override { started_ = path; }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <spawn.h>
 #include <system_error>
@@ -14,6 +15,12 @@ extern char** environ;
 
 namespace tavmoor::cli {
 
+namespace {
+
+volatile std::sig_atomic_t interrupted = 0;
+
+} // namespace
+
 std::vector<std::string> CommandLineArguments(int count, char** values) {
     return {values + 1, values + count};
 }
@@ -22,7 +29,19 @@ std::filesystem::path NativeArgument(const std::string& utf8) {
     return IsDocumentForm(utf8) ? NativePath(TextArgument(utf8)) : FromUtf8(utf8);
 }
 
-void PrepareConsole() {}
+void PrepareConsole() {
+    struct sigaction action {};
+    action.sa_handler = [](int) { interrupted = 1; };
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGHUP, &action, nullptr);
+    action.sa_handler = SIG_IGN; // the failing write tells it
+    sigaction(SIGPIPE, &action, nullptr);
+}
+
+bool IsInterrupted() {
+    return interrupted != 0;
+}
 
 bool OutputIsTerminal() {
     return isatty(STDOUT_FILENO) == 1;
@@ -32,9 +51,17 @@ void StartAutorunProgram(const std::filesystem::path& program) {
     std::string wine = "wine";
     std::string path = program.string();
     const std::array<char*, 3> arguments{wine.data(), path.data(), nullptr};
+    posix_spawnattr_t attributes;
+    sigset_t defaults;
+    sigemptyset(&defaults);
+    sigaddset(&defaults, SIGPIPE); // ignored here, and the child would inherit that
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+    posix_spawnattr_setsigdefault(&attributes, &defaults);
     pid_t child = 0;
     const int error =
-        posix_spawnp(&child, wine.c_str(), nullptr, nullptr, arguments.data(), environ);
+        posix_spawnp(&child, wine.c_str(), nullptr, &attributes, arguments.data(), environ);
+    posix_spawnattr_destroy(&attributes);
     if (error == ENOENT) {
         throw CommandFailure("the autorun was built but not started: Wine is not installed");
     }

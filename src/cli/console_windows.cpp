@@ -3,12 +3,19 @@
 #include "core/build_folder.h"
 #include "core/document_path.h"
 
+#include <atomic>
 #include <io.h>
 #include <windows.h>
 
 #include <shellapi.h>
 
 namespace tavmoor::cli {
+
+namespace {
+
+std::atomic<bool> interrupted = false;
+
+} // namespace
 
 std::vector<std::string> CommandLineArguments(int /*count*/, char** /*values*/) {
     int count = 0;
@@ -28,6 +35,16 @@ std::filesystem::path NativeArgument(const std::string& utf8) {
 
 void PrepareConsole() {
     SetConsoleOutputCP(CP_UTF8);
+    SetConsoleCtrlHandler(
+        [](DWORD) -> BOOL {
+            interrupted = true;
+            return TRUE;
+        },
+        TRUE);
+}
+
+bool IsInterrupted() {
+    return interrupted;
 }
 
 bool OutputIsTerminal() {

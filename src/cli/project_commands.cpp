@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "build/build_driver.h"
 #include "build/project_check.h"
 #include "console.h"
 #include "core/field_text.h"
@@ -76,17 +77,30 @@ void PrintText(const ProjectDocument& document) {
     });
 }
 
+/// The reader's buffer cuts long values; what is written then is shorter than what was read.
+void WarnOfCutValues(const ProfileFile& file) {
+    for (const ProfileFile::Entry& entry : file.Entries()) {
+        if (entry.value.size() > ProfileFile::MaximumValue) {
+            PrintError("warning: [" + OneLine(entry.section) + "] " + OneLine(entry.key) +
+                       " is cut after " + std::to_string(ProfileFile::MaximumValue) +
+                       " characters");
+        }
+    }
+}
+
 } // namespace
 
 int ResaveCommand(const ResaveArguments& arguments) {
     const auto project = Load(arguments.input, arguments.programFolder,
                               arguments.asRead ? ButtonRowsAre::AsRead : ButtonRowsAre::Live);
+    WarnOfCutValues(project->file);
     WriteProject(project->document, PathArgument(arguments.output));
     return 0;
 }
 
 int ConfigurationCommand(const ProjectArguments& arguments) {
     const auto project = Load(arguments.project, arguments.programFolder, ButtonRowsAre::Live);
+    FillScreenTimes(project->document);
     WriteWholeFile(PathArgument(arguments.output),
                    FieldFileText(project->document, FieldFile::Configuration));
     return 0;

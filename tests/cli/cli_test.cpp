@@ -46,8 +46,8 @@ protected:
     }
     void TearDown() override { EXPECT_EQ(Names("tmp"), ""); }
 
-    [[nodiscard]] Result Run(const Arguments& arguments, const std::string& out = "console/out",
-                             const std::string& locale = "en_US") const {
+    Result Run(const Arguments& arguments, const std::string& out = "console/out",
+               const std::string& locale = "en_US") const {
         std::string line = "cd " + Quoted(folder_.Native()) + " && LC_ALL=" + locale +
                            " TMPDIR=" + Quoted(folder_.Native("tmp")) + " " + Quoted(TAVMOOR_CLI);
         for (const std::string& argument : arguments) {
@@ -164,6 +164,11 @@ TEST_F(CliTest, ABuildThatIsNotWholeFails) {
     EXPECT_FALSE(Has(result.out, "Built in"));
     fs::remove(folder_.Native("program/Templates/Marquee/template.tavexe"));
     EXPECT_TRUE(Has(Build(Album).error, "\\Marquee\\template.tavexe is missing."));
+}
+
+TEST_F(CliTest, ABuildThatNobodyReadsLeavesNoWorkingFiles) {
+    const Arguments build{"build", Album, "--cd-folder", "disc", "--program-folder", "program"};
+    Run(build, "&1 | true"); // the folder for temporary files is looked into afterwards
 }
 
 TEST_F(CliTest, NeverTakesAnEmptyArgumentForAMissingOne) {

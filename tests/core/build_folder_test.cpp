@@ -29,12 +29,17 @@ int ErrorOfUse(const std::string& folder) {
 
 TEST(BuildFolder, LiesInTheTemporaryFolder) {
     EXPECT_EQ(BuildFolder(), WithBackslash(TemporaryPath()) + "TAVMOORbuild\\");
-    EnsureBuildFolder();
-    EXPECT_EQ(ErrorOfUse(BuildFolder()), 0);
     EXPECT_EQ(ErrorOfUse(test::TemporaryFolder().Document("gone") + "\\"), 76);
 }
 
-#ifndef _WIN32
+#ifdef _WIN32
+
+TEST(BuildFolder, IsMadeWhenItIsMissing) {
+    EnsureBuildFolder();
+    EXPECT_EQ(ErrorOfUse(BuildFolder()), 0);
+}
+
+#else
 
 namespace {
 

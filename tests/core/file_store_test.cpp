@@ -61,21 +61,16 @@ TEST_F(FileStoreTest, MissingFilesAndFoldersHaveTheirErrors) {
     EXPECT_EQ(FileLengthOrZero(folder_.Write("five", "12345")), 5U);
 }
 
-TEST_F(FileStoreTest, DeletingCopyingAndMovingSwallowTheirErrors) {
+TEST_F(FileStoreTest, CopyingAndMovingSwallowTheirErrors) {
     const std::string gone = folder_.Document("gone/file");
     const std::string from = folder_.Write("from", "new");
     const std::string to = folder_.Write("to", "older and longer");
-    DeleteFileIgnoringErrors(gone);
-    DeleteFileIgnoringErrors(folder_.Document());
-    EXPECT_FALSE(CopyFileIgnoringErrors(gone, from) || CopyFileIgnoringErrors(from, gone));
-    EXPECT_FALSE(MoveFileIgnoringErrors(gone, from));
-    EXPECT_EQ(folder_.Read("from"), "new");
+    EXPECT_FALSE(CopyFileIgnoringErrors(gone, from) || CopyFileIgnoringErrors(from, gone) ||
+                 MoveFileIgnoringErrors(gone, from));
     EXPECT_TRUE(CopyFileIgnoringErrors(from, to));
     EXPECT_EQ(folder_.Read("to"), "new");
     EXPECT_TRUE(MoveFileIgnoringErrors(from, folder_.Document("moved")));
     EXPECT_EQ(folder_.Names(), (Names{"moved", "to"}));
-    WriteFreshFile(to, "fresh");
-    EXPECT_EQ(folder_.Read("to"), "fresh");
 }
 
 #ifndef _WIN32

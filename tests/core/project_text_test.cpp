@@ -6,8 +6,6 @@
 #include "support/full_project.h"
 #include "support/temporary_folder.h"
 
-#include <regex>
-
 namespace tavmoor {
 
 namespace {
@@ -57,14 +55,6 @@ TEST_F(FullProjectTest, ComesBackFromItsRuntimeConfiguration) {
     ReadRuntimeConfiguration(ProfileFile(full_->configurationText), *read_);
     ExpectSameLines(FieldFileText(*read_, FieldFile::Configuration), full_->configurationText);
     EXPECT_FALSE(read_->NapredniSabloni.Dugme[1].DugmeExists);
-}
-
-TEST(ProjectText, HoldsAllSectionsInOrderEvenWhenEmpty) {
-    const std::string text = ProjectText(*std::make_unique<D>());
-    EXPECT_EQ(std::regex_replace(text, std::regex("[^\\[\r\n]+=[^\r\n]*|\r\n"), ""),
-              "[Osnovna podesavanja][Osnovni podaci][Izvrsne komande][Opis komandi]"
-              "[Dodatne komande][Menu titles][Zvuk][Uvod][Izlaz][Fontovi][Efekti][Poruke]"
-              "[Expiration][Precice][Napredni sabloni][ObjTekst][Video]");
 }
 
 TEST(ProjectText, LinesDependOnFlags) {

@@ -1,6 +1,6 @@
 #include "support/full_project.h"
 
-#include <string_view>
+#include <regex>
 #include <vector>
 
 namespace tavmoor::test {
@@ -17,42 +17,24 @@ class Golden {
 public:
     explicit Golden(FullProject& full) : full_(full) {}
 
-    void Add(std::string_view script, std::size_t row = 0, const std::vector<bool>& flags = {}) {
-        auto flag = flags.begin();
-        for (const char character : script) {
-            switch (character) {
-            case '|':
-                Put("\r\n");
-                break;
-            case '@':
-                Put(std::to_string(row));
-                break;
-            case '^':
-                Put(*flag++ ? "True" : "False");
-                break;
-            case '<':
-            case '>':
-                inConfiguration_ = character == '>';
-                break;
-            case '{':
-            case '}':
-                inProject_ = character == '}';
-                break;
-            default:
-                Put(std::string(1, character));
-            }
+    void Add(std::string script, std::size_t row = 0, const std::vector<bool>& flags = {}) {
+        static const std::regex outsideProject("\\{[^}]*\\}|[<>]");
+        static const std::regex outsideConfiguration("<[^>]*>|[{}]");
+        for (const bool flag : flags) {
+            script.replace(script.find('^'), 1, flag ? "True" : "False");
         }
+        std::string text;
+        for (const char character : script) {
+            text += character == '|'   ? std::string("\r\n")
+                    : character == '@' ? std::to_string(row)
+                                       : std::string(1, character);
+        }
+        full_.projectText += std::regex_replace(text, outsideProject, "");
+        full_.configurationText += std::regex_replace(text, outsideConfiguration, "");
     }
 
 private:
-    void Put(const std::string& text) {
-        full_.projectText += inProject_ ? text : "";
-        full_.configurationText += inConfiguration_ ? text : "";
-    }
-
     FullProject& full_;
-    bool inProject_ = true;
-    bool inConfiguration_ = true;
 };
 
 // The values below stand in the order of the members.
