@@ -19,6 +19,12 @@ constexpr int ProgramIcon = 1;
 constexpr int WheelStep = 60; ///< pixels at 96 dpi for one notch
 constexpr LPARAM WasDownBefore = 1 << 30;
 
+/// What a message or a window carries as a number.
+template <typename Object>
+Object* PointerIn(LONG_PTR number) {
+    return reinterpret_cast<Object*>(number); // NOLINT(performance-no-int-to-ptr)
+}
+
 std::uint32_t SystemColor(int number) {
     return GetSysColor(number);
 }
@@ -309,12 +315,12 @@ void MenuWindow::Run(std::size_t button) {
 
 LRESULT CALLBACK MenuWindow::Procedure(HWND window, UINT message, WPARAM wide, LPARAM lng) {
     if (message == WM_NCCREATE) {
-        const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lng);
+        const auto* create = PointerIn<const CREATESTRUCTW>(lng);
         auto* menu = static_cast<MenuWindow*>(create->lpCreateParams);
         menu->window_ = window;
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(menu));
     }
-    auto* menu = reinterpret_cast<MenuWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* menu = PointerIn<MenuWindow>(GetWindowLongPtrW(window, GWLP_USERDATA));
     return menu != nullptr ? menu->Handle(message, wide, lng)
                            : DefWindowProcW(window, message, wide, lng);
 }
@@ -334,7 +340,7 @@ LRESULT MenuWindow::Handle(UINT message, WPARAM wide, LPARAM lng) {
         Repaint();
         return 0;
     case DpiChangedMessage:
-        OnDpiChanged(LOWORD(wide), *reinterpret_cast<const RECT*>(lng));
+        OnDpiChanged(LOWORD(wide), *PointerIn<const RECT>(lng));
         return 0;
     case WM_KEYDOWN:
         if (OnKey(wide, (lng & WasDownBefore) != 0)) {

@@ -4,11 +4,13 @@ namespace tavmoor {
 
 PackageFonts::PackageFonts(AutorunDisc& disc) {
     for (const std::string& name : disc.FontFiles()) {
-        auto bytes = disc.ReadFile(name);
+        std::optional<std::string> bytes = disc.ReadFile(name);
+        if (!bytes) {
+            continue;
+        }
         DWORD count = 0;
-        HANDLE font = bytes ? AddFontMemResourceEx(bytes->data(), static_cast<DWORD>(bytes->size()),
-                                                   nullptr, &count)
-                            : nullptr;
+        HANDLE font =
+            AddFontMemResourceEx(bytes->data(), static_cast<DWORD>(bytes->size()), nullptr, &count);
         if (font != nullptr) {
             fonts_.push_back(font);
         }

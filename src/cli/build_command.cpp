@@ -116,6 +116,7 @@ int BuildCommand(const BuildArguments& arguments, const ProjectDocument*& openPr
     if (document.OsnovnaPodesavanja.Sablon.empty()) {
         throw CommandFailure("the project has no template");
     }
+    CatchInterrupts();
     const WorkingFolder folder;
     BuildRequest request;
     request.name = arguments.name ? TextArgument(*arguments.name) : InitialAutorunName(document);

@@ -50,10 +50,11 @@ std::filesystem::path FromUtf8(const std::string& utf8);
 std::vector<std::string> CommandLineArguments(int count, char** values);
 /// A typed path, native or in document form, as a native path.
 std::filesystem::path NativeArgument(const std::string& utf8);
-/// Makes the terminal show UTF-8, and lets the program come to a clean end when it is interrupted or
-/// its output is closed.
+/// Makes the terminal show UTF-8, and lets a write tell when the output is closed.
 void PrepareConsole();
-/// True once the user has interrupted the program.
+/// From here on an interrupt does not end the program; IsInterrupted tells of it, for commands with
+/// something to clear up. Interrupts that were ignored at the start stay so.
+void CatchInterrupts();
 bool IsInterrupted();
 /// True when standard output is a terminal that a line can be rewritten on.
 bool OutputIsTerminal();

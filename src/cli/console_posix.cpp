@@ -30,13 +30,19 @@ std::filesystem::path NativeArgument(const std::string& utf8) {
 }
 
 void PrepareConsole() {
-    struct sigaction action {};
-    action.sa_handler = [](int) { interrupted = 1; };
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
-    sigaction(SIGHUP, &action, nullptr);
-    action.sa_handler = SIG_IGN; // the failing write tells it
-    sigaction(SIGPIPE, &action, nullptr);
+    std::signal(SIGPIPE, SIG_IGN); // the failing write tells it
+}
+
+void CatchInterrupts() {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction action {};
+        sigaction(number, nullptr, &action);
+        if (action.sa_handler != SIG_IGN) {
+            action = {};
+            action.sa_handler = [](int) { interrupted = 1; };
+            sigaction(number, &action, nullptr);
+        }
+    }
 }
 
 bool IsInterrupted() {

@@ -4,6 +4,7 @@
 #include "core/document_path.h"
 
 #include <atomic>
+#include <cstdlib>
 #include <io.h>
 #include <windows.h>
 
@@ -34,10 +35,19 @@ std::filesystem::path NativeArgument(const std::string& utf8) {
 }
 
 void PrepareConsole() {
+    static const UINT before = GetConsoleOutputCP(); // the console outlives this program
     SetConsoleOutputCP(CP_UTF8);
+    std::atexit([] { SetConsoleOutputCP(before); });
+}
+
+void CatchInterrupts() {
     SetConsoleCtrlHandler(
-        [](DWORD) -> BOOL {
+        [](DWORD event) -> BOOL {
+            constexpr DWORD longEnoughToClearUp = 5000; // ms; the system grants about as much
             interrupted = true;
+            if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) {
+                Sleep(longEnoughToClearUp); // it ends the process when this returns
+            }
             return TRUE;
         },
         TRUE);

@@ -114,6 +114,9 @@ TEST_F(BuildDriverTest, PlacesTheFourFiles) {
     EXPECT_EQ(entries[1].name + "=" + package.Read(entries[1]), "back.bmp=background");
     EXPECT_EQ(entries[2].name + "=" + package.Read(entries[2]), "blue.ico=icon");
 
+    document_.OsnovniPodaci.Ikona = project_.folder.Document("disc") + "\\autorun.ICO";
+    EXPECT_EQ(Build(), "built");
+    EXPECT_EQ(Disc("Autorun.ico"), "icon") << "an icon in its own place is not deleted first";
     document_.OsnovniPodaci.Ikona = "";
     EXPECT_EQ(Build(), "built");
     EXPECT_EQ(OnDisc(), "Autorun.arn Autorun.inf start.exe") << "the old icon goes";

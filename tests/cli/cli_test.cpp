@@ -168,7 +168,8 @@ TEST_F(CliTest, ABuildThatIsNotWholeFails) {
 
 TEST_F(CliTest, ABuildThatNobodyReadsLeavesNoWorkingFiles) {
     const Arguments build{"build", Album, "--cd-folder", "disc", "--program-folder", "program"};
-    Run(build, "&1 | true"); // the folder for temporary files is looked into afterwards
+    Run(build,
+        "&1 2>console/error | true"); // the folder for temporary files is looked into afterwards
 }
 
 TEST_F(CliTest, NeverTakesAnEmptyArgumentForAMissingOne) {
@@ -206,6 +207,9 @@ TEST_F(CliTest, ResavesWithoutAChange) {
         EXPECT_GT(folder_.Read("1.tavp").size(), folder_.Read(from).size()) << "whole paths";
     }
     ExpectFailure(Run({"resave", Album, "gone/out.tavp"}), "gone\\out.tavp");
+    const std::string cut = Changed("Uvod", "Poruka=" + std::string(1024, 'x') + "\r\n");
+    EXPECT_EQ(Run({"resave", cut, "1.tavp"}).error,
+              "tavmoor-cli: warning: [Uvod] Poruka is cut after 1023 characters\n");
 }
 
 TEST_F(CliTest, ShowsWhatAProjectSays) {
