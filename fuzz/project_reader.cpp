@@ -50,7 +50,8 @@ bool HasNoScreenOption(const ProjectDocument& document) {
 
 /// Encoding lengthens a text and "%" stands for a whole folder, but a value is cut when read.
 bool HasLongValue(const std::string& text) {
-    const auto entries = ProfileFile(text).Entries();
+    const ProfileFile file(text);
+    const auto entries = file.Entries();
     return std::any_of(entries.begin(), entries.end(), [](const auto& entry) {
         return entry.value.size() > ProfileFile::MaximumValue;
     });
