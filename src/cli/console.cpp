@@ -4,6 +4,7 @@
 #include "core/document_path.h"
 #include "core/runtime_error.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <cstdio>
@@ -76,6 +77,17 @@ std::string TextArgument(const std::string& utf8) {
     return text.bytes;
 }
 
+namespace {
+
+/// ".." stays: behind a link it leads elsewhere than the text says.
+fs::path AbsolutePath(const fs::path& path) {
+    const fs::path absolute = fs::absolute(path);
+    const bool up = std::find(absolute.begin(), absolute.end(), "..") != absolute.end();
+    return up ? absolute : absolute.lexically_normal();
+}
+
+} // namespace
+
 std::string PathArgument(const std::string& utf8) {
     if (utf8.empty()) {
         throw CommandFailure("a path is empty");
@@ -84,7 +96,7 @@ std::string PathArgument(const std::string& utf8) {
         return TextArgument(utf8);
     }
     try {
-        return DocumentPath(fs::absolute(FromUtf8(utf8)).lexically_normal());
+        return DocumentPath(AbsolutePath(FromUtf8(utf8)));
     } catch (const RuntimeError&) {
         throw CommandFailure("the path \"" + utf8 + "\" cannot stand in a project: code page " +
                              std::to_string(SystemCodePage().Number()) +

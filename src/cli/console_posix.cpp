@@ -11,8 +11,6 @@
 #include <system_error>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace tavmoor::cli {
 
 namespace {

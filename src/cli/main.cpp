@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <functional>
 
 namespace tavmoor::cli {
@@ -150,8 +151,7 @@ int EndOnRuntimeError(const RuntimeError& error, const ProjectDocument* openProj
     return 1;
 }
 
-int Main(int count, char** values) {
-    PrepareConsole();
+int RunCommandLine(int count, char** values) {
     CommandLine line;
     try {
         line.Parse(CommandLineArguments(count, values));
@@ -162,6 +162,17 @@ int Main(int count, char** values) {
         return EndOnRuntimeError(error, line.OpenProject());
     } catch (const std::exception& error) {
         PrintError(error.what());
+        return 1;
+    }
+}
+
+/// What comes as far as here left no memory to say more with.
+int Main(int count, char** values) noexcept {
+    try {
+        PrepareConsole();
+        return RunCommandLine(count, values);
+    } catch (...) {
+        std::fputs("tavmoor-cli: out of memory\n", stderr);
         return 1;
     }
 }

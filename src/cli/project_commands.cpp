@@ -6,6 +6,7 @@
 #include "core/field_text.h"
 #include "core/field_writer.h"
 #include "core/file_store.h"
+#include "core/project_reader.h"
 #include "core/project_reset.h"
 #include "core/project_writer.h"
 #include "open_project.h"
@@ -26,10 +27,20 @@ std::unique_ptr<OpenProject> Load(const std::string& project,
     return opened;
 }
 
+/// A new project as it comes back from its file: some empty fields are written with a default.
+std::unique_ptr<ProjectDocument> SavedNewProject() {
+    auto document = std::make_unique<ProjectDocument>(NewProjectDocument());
+    const ProfileFile file(ProjectText(*document));
+    class Silent final : public ProjectReaderListener {
+    } silent;
+    ReadProjectFrom(file, *document, "", silent);
+    return document;
+}
+
 /// Calls `take` with each stored field whose value is not that of a new project.
 template <typename Take>
 void ForEachChange(const ProjectDocument& document, Take take) {
-    const auto fresh = std::make_unique<ProjectDocument>(NewProjectDocument());
+    const auto fresh = SavedNewProject();
     for (const FieldBlock& block : ProjectBlocks()) {
         for (std::size_t row = block.first; row <= block.last; ++row) {
             for (const FieldSpec& field : block.fields) {

@@ -44,7 +44,9 @@ public:
     }
 
 private:
-    static iconv_t InvalidHandle() { return reinterpret_cast<iconv_t>(-1); }
+    static iconv_t InvalidHandle() {
+        return reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr): as iconv has it
+    }
     static std::size_t Failure() { return static_cast<std::size_t>(-1); }
 
     iconv_t handle_;

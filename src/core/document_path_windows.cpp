@@ -49,9 +49,10 @@ std::string DocumentPath(const fs::path& nativePath) {
 }
 
 bool SamePath(std::string_view a, std::string_view b) {
-    const std::wstring left = NativePath(a).wstring();
-    const std::wstring right = NativePath(b).wstring();
-    return CompareStringOrdinal(left.c_str(), -1, right.c_str(), -1, TRUE) == CSTR_EQUAL;
+    const auto left = FindNativePath(a);
+    const auto right = FindNativePath(b);
+    return left && right &&
+           CompareStringOrdinal(left->c_str(), -1, right->c_str(), -1, TRUE) == CSTR_EQUAL;
 }
 
 } // namespace tavmoor

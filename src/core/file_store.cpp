@@ -30,7 +30,10 @@ bool IsFolder(const fs::path& path) {
 
 std::string ReadWholeFile(std::string_view path) {
     const fs::path native = NativePath(path);
-    if (IsFolder(native)) {
+    // A path can come from a stored project: a device would be read without end, a pipe waited for.
+    std::error_code unknown;
+    const fs::file_status status = fs::status(native, unknown);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
         throw RuntimeError(ErrorNumber::PathFileAccess, path);
     }
     errno = 0;

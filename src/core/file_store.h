@@ -10,7 +10,8 @@ namespace tavmoor {
 // File operations on paths in document form. Unless the name says otherwise, a failure is a
 // RuntimeError that names the file.
 
-/// The whole content. Meant for texts and other small files.
+/// The whole content. Meant for texts and other small files; RuntimeError 75 for what is no file,
+/// such as a folder, a device or a pipe.
 std::string ReadWholeFile(std::string_view path);
 
 /// Replaces the file at `path` by `bytes`: they are written beside it, flushed to the disk and

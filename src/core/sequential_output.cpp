@@ -9,7 +9,7 @@ namespace tavmoor {
 namespace {
 
 /// A multiple of every page size in use, small enough to stay in the processor's cache.
-constexpr std::size_t WriteSize = 128U * 1024U;
+constexpr std::size_t WriteSize = std::size_t{128} * 1024;
 
 } // namespace
 

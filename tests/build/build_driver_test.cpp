@@ -195,6 +195,7 @@ TEST_F(BuildDriverTest, AProgramThatStaysIsOverwrittenByTheAutorunOfItsName) {
     PutOnDisc("start.exe", ProgramOf(u"Northlight"));
     EXPECT_EQ(Build(), "built");
     EXPECT_EQ(Disc("start.exe"), project_.runtime);
+    EXPECT_EQ(AtWork(), "") << "what could not be moved is deleted";
 }
 
 TEST_F(BuildDriverTest, WithoutTheTemplatesProgramTheRestIsPlaced) {

@@ -105,6 +105,14 @@ TEST(CompanyName, IsFoundInLooselyWrittenBlocks) {
         EXPECT_EQ(NameIn(VersionResource({Strings(u"040904B0", entry), Translation(UsEnglish)})),
                   "Orlenta");
     }
+    // A text without its NUL, said to be longer than its block, and another one right behind it.
+    std::string open = VersionNode(u"CompanyName", Utf16Bytes(u"Orlenta!").substr(0, 16), true);
+    open[2] = 0x40;
+    const std::string next = VersionNode(u"ProductName", Utf16Bytes(u"x"), true);
+    const std::string strings = VersionNode(u"StringFileInfo", "", true,
+                                            {VersionNode(u"040904b0", "", true, {open, next})});
+    EXPECT_EQ(NameIn(VersionResource({Translation(UsEnglish), strings})), "Orlenta!");
+
     PeImage image = MakePeImage(VersionResourceOf(u"Orlenta"));
     image.Put16(image.resource, 0xFFFF);
     EXPECT_EQ(Read(image.bytes).name, "Orlenta");

@@ -120,7 +120,9 @@ TEST_F(CliTest, ButtonRowsOfTheFileCountAsLive) {
     const std::string row = "DugmePictureFile(3)=" + picture + "\r\n";
     const std::string project = Changed("Napredni sabloni", row);
     EXPECT_EQ(Build(project).exit, 0);
-    EXPECT_TRUE(Has(Run({"package", "list", "disc/Autorun.arn"}).out, "7\tbutton.gif\n"));
+    EXPECT_EQ(Run({"package", "extract", "disc/Autorun.arn", "out"}).exit, 0);
+    EXPECT_EQ(folder_.Read("out/button.gif"), "picture");
+    EXPECT_TRUE(Has(folder_.Read("out/tavmoor.cfg"), "\r\nDugmePictureFile(3)=button.gif\r\n"));
     EXPECT_EQ(Run({"resave", project, "live.tavp"}).exit, 0);
     EXPECT_EQ(Run({"resave", project, "read.tavp", "--as-read"}).exit, 0);
     EXPECT_TRUE(Has(folder_.Read("live.tavp"), row));
@@ -168,8 +170,7 @@ TEST_F(CliTest, ABuildThatIsNotWholeFails) {
 
 TEST_F(CliTest, ABuildThatNobodyReadsLeavesNoWorkingFiles) {
     const Arguments build{"build", Album, "--cd-folder", "disc", "--program-folder", "program"};
-    Run(build,
-        "&1 2>console/error | true"); // the folder for temporary files is looked into afterwards
+    Run(build, "&1 2>console/error | true"); // the temporary files are asked for afterwards
 }
 
 TEST_F(CliTest, NeverTakesAnEmptyArgumentForAMissingOne) {

@@ -6,8 +6,9 @@
 #include <gtest/gtest.h>
 
 #ifndef _WIN32
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #endif
 
 namespace tavmoor {
@@ -75,6 +76,12 @@ TEST_F(FileStoreTest, CopyingAndMovingSwallowTheirErrors) {
 
 #ifndef _WIN32
 
+TEST_F(FileStoreTest, PipesAndDevicesAreNotRead) {
+    ASSERT_EQ(mkfifo(folder_.Native("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(folder_.Document("pipe")); }), 75);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile("Z:\\dev\\zero"); }), 75);
+}
+
 TEST_F(FileStoreTest, ASaveKeepsPermissionsAndLinks) {
     const auto mode = [this](const char* name) {
         return static_cast<unsigned>(std::filesystem::status(folder_.Native(name)).permissions());
@@ -96,13 +103,16 @@ TEST_F(FileStoreTest, ASaveKeepsPermissionsAndLinks) {
     EXPECT_EQ(ErrorOf([&] { WriteWholeFile(folder_.Document(longest), "x"); }), 0);
 }
 
-TEST_F(FileStoreTest, TheOldFileStaysInAFolderThatCannotBeWritten) {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "permissions do not bind this user";
-    }
+TEST_F(FileStoreTest, TheOldFileStaysWhenTheDiskIsFull) {
     const std::string path = folder_.Write("a.tavp", "old");
-    chmod(folder_.Native().c_str(), 0500);
-    EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, "new"); }), 70);
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const rlimit small{1000, old.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_EQ(ErrorOf([&] { WriteWholeFile(path, std::string(2000, 'x')); }), 61);
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, handler);
     EXPECT_EQ(folder_.Read("a.tavp"), "old");
     EXPECT_EQ(folder_.Names(), Names{"a.tavp"});
 }

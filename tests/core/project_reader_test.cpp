@@ -1,6 +1,5 @@
 #include "core/project_reader.h"
 
-#include "core/field_writer.h"
 #include "core/project_reset.h"
 #include "support/field_check.h"
 #include "support/temporary_folder.h"
@@ -41,28 +40,26 @@ protected:
 
 } // namespace
 
-TEST_F(ProjectReaderTest, AnEmptyFileLeavesANewProjectButForItsFallbacks) {
-    d.Working.ProjectPath = "Z:\\p.tavp";
-    Read("");
+TEST_F(ProjectReaderTest, AnEmptyFileClearsKeepsOrFallsBack) {
+    test::FieldsBeforeAndAfter fields;
+    fields.Document().Working.ProjectPath = "Z:\\p.tavp";
+    ReadProjectFrom(ProfileFile(""), fields.Document(), "Z:\\app", *this);
     EXPECT_EQ(events_, (std::vector<std::string>{"events", "template", "title Z:\\p.tavp"}));
-    const auto expected = std::make_unique<ProjectDocument>(NewProjectDocument());
-    expected->MenuTitles = {"Main", "Info", "Program", "Additional"};
-    expected->IzvrsneKomande.Bojasenke = "14284027";
-    expected->OsnovnaPodesavanja.backscreenpicpozicija = "Top left";
-    expected->Zvuk.Komanda = "";
-    expected->Uvod.Vreme = expected->Izlaz.Vreme = "";
-    for (FixedText& text : expected->NapredniSabloni.Tekst) {
-        text.TekstBackgroundColor = "0";
-    }
-    for (ProjectDocument* shown : {&d, expected.get()}) { // what flags hide
-        shown->IzvrsneKomande.Addshadow = shown->OsnovnaPodesavanja.Backscrpredpos = true;
-        for (std::size_t i = 0; i < ButtonRows; ++i) {
-            shown->NapredniSabloni.Dugme[i].DugmeExists = shown->ObjTekst[i].TekstBoxVisible = true;
-        }
-    }
-    for (const FieldFile file : {FieldFile::Project, FieldFile::Configuration}) {
-        EXPECT_EQ(FieldFileText(d, file), FieldFileText(*expected, file));
-    }
+    fields.Expect(
+        "Osnovna podesavanja/(Boja prozora|Podesi(Sirinu|Visinu)|BojaEkrana|backscreenslika)|"
+        "Osnovni podaci/(Glavni.*(Font|Vel|Boja)|Glnaslov.*|Logotekstboja|Vertfontboja)|"
+        "Izvrsne komande/(Zatvara.|Boja (slova|pozadine|pozadine komandi)|Font|Velicina)|"
+        "Dodatne komande/(?!addname).*|Zvuk/(Ponovi|Pauza)|"
+        "(Uvod|Izlaz)/(Bojateksta|Opcija|Bojaprozora|Visina|Sirina)|Fontovi/.*|"
+        "Efekti/e(splash|main|exit)(enter|leave)|Poruke/.*|Expiration/.*|Precice/.*|"
+        "ObjTekst/(back|Logo)pic.*|"
+        "ObjTekst/(?!TekstBox(Visible|Transparent|Font[BUI])).*|Video/.*",
+        "[Osnovna podesavanja]|backscreenpicpozicija=Top left|[Izvrsne komande]|Izlaz=#Empty#|"
+        "Boja senke=14284027|[Menu titles]|TitleMain=Main|Titleinfo=Info|Titleprog=Program|"
+        "Titleaddit=Additional|[Napredni sabloni]|TekstBackgroundColor(0)=0|"
+        "TekstBackgroundColor(1)=0|TekstBackgroundColor(2)=0|TekstBackgroundColor(3)=0|"
+        "DugmeBorderVisible(0)=True|DugmeBorderVisible(7)=True|DugmeBorderVisible(10)=True|"
+        "DugmeBorderVisible(100)=True");
 }
 
 TEST_F(ProjectReaderTest, ValuesThatSayNothingLeaveTheField) {
@@ -127,7 +124,8 @@ TEST_F(ProjectReaderTest, TablesMayHaveHolesAndListsNeverShrink) {
          "[Fontovi]|Font0=f0|Font1=f1|Font3=f3");
     Expect("[Dodatne komande]|addtarget2=two|addname3=|addtarget3=old|addname4=#empty#|AddID4=-7|"
            "addclose4=Chr$(38)|addname100=last|[Precice]|Ime0=a|Ime1=old|Ime2=|"
-           "[Video]|VideoFajl1=a|Volume1=20|VideoFajl3=|[Fontovi]|Font1=f1|Font3=|Font4=old");
+           "[Video]|VideoFajl1=a|videoTop1=200|Volume1=20|VideoFajl3=|[Fontovi]|Font1=f1|Font3=|"
+           "Font4=old");
     EXPECT_EQ(d.DodatneKomande[2].addname, "  ");
     EXPECT_EQ(d.Video[0].VideoFajl, "");
     EXPECT_EQ(fonts_, (std::vector<std::string>{"f0", "f1"}));

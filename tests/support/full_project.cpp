@@ -40,8 +40,8 @@ private:
 // The values below stand in the order of the members.
 
 void BaseAndTitles(Golden& golden, ProjectDocument& d) {
-    d.OsnovnaPodesavanja = {"Z:\\disc", "Z:\\t\\a.tavt", "Z:\\p\\b.jpg", 101,   true, 640, 480,
-                            true,       "102",           "Z:\\p\\s.bmp", false, "Ne", -12, 34};
+    d.OsnovnaPodesavanja = {"Z:\\disc", "Z:\\t\\a.tavt", "Z:\\p\\b.jpg", 101,   true,  640, 480,
+                            true,       "102",           "Z:\\p\\s.bmp", false, "Top", -12, 34};
     golden.Add("[Osnovna podesavanja]|<Glavni direktorijum=Z:\\disc|Sablon=Z:\\t\\a.tavt|>"
                "Pozadinska slika=<Z:\\p\\>b.jpg|Boja prozora=101|PodesiVelicinu=Da|"
                "PodesiSirinu=640|PodesiVisinu=480|CeoEkran=Da|BojaEkrana=102|"
