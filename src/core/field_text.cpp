@@ -210,17 +210,19 @@ void ResetField(ProjectDocument& document, const FieldPlace& place) {
     if (!field.newValue) {
         return;
     }
+    const std::string_view fresh = *field.newValue;
+    const bool zero = fresh.empty() || fresh == "0"; // as most fields are: nothing to convert
     const ValueRef value = place.Edit(document);
     if (auto* const* string = std::get_if<std::string*>(&value)) {
-        **string = *field.newValue;
+        **string = fresh;
     } else if (auto* const* small = std::get_if<std::int16_t*>(&value)) {
-        **small = ParseInteger<std::int16_t>(*field.newValue).value_or(0);
+        **small = zero ? std::int16_t{0} : ParseInteger<std::int16_t>(fresh).value_or(0);
     } else if (auto* const* large = std::get_if<std::int32_t*>(&value)) {
-        **large = ParseInteger<std::int32_t>(*field.newValue).value_or(0);
+        **large = zero ? 0 : ParseInteger<std::int32_t>(fresh).value_or(0);
     } else if (auto* const* real = std::get_if<double*>(&value)) {
-        **real = ParseNumber(*field.newValue).value_or(0);
+        **real = zero ? 0 : ParseNumber(fresh).value_or(0);
     } else if (auto* const* flag = std::get_if<bool*>(&value)) {
-        **flag = *field.newValue == TextsOf(field.flagForm).whenTrue;
+        **flag = fresh == TextsOf(field.flagForm).whenTrue;
     }
 }
 

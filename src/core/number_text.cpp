@@ -11,6 +11,9 @@ namespace tavmoor {
 
 namespace {
 
+/// What lies above is rounded out of range by the 15 digits that numbers are written with.
+constexpr double LargestNumber = 1.79769313486231e308;
+
 std::optional<double> ParseHexadecimal(std::string_view digits) {
     std::uint32_t bits = 0;
     const char* end = digits.data() + digits.size();
@@ -45,7 +48,7 @@ std::optional<double> ParseNumber(std::string_view text) {
     double number = 0;
     const char* end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stop != end) {
+    if (error != std::errc() || stop != end || std::abs(number) > LargestNumber) {
         return std::nullopt;
     }
     return number;
