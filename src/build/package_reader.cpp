@@ -36,11 +36,6 @@ PackageError CannotWrite(std::string_view name, const std::error_code& code) {
     return PackageError("The file " + Shown(name) + " cannot be written: " + std::string(reason));
 }
 
-/// The streams tell no reason of their own; the system call behind them left it in errno.
-std::error_code StreamError() {
-    return {errno != 0 ? errno : EIO, std::generic_category()};
-}
-
 /// Takes the lines of a head one by one.
 class HeadLines {
 public:

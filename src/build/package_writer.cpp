@@ -93,7 +93,7 @@ private:
         input.rdbuf()->pubsetbuf(nullptr, 0); // blocks are large; a buffer would only copy them
         input.open(NativePath(path), std::ios::binary);
         if (!input) {
-            throw FileError({errno != 0 ? errno : EIO, std::generic_category()}, path);
+            throw FileError(StreamError(), path);
         }
         std::uint64_t copied = 0;
         std::size_t count = 0;

@@ -16,11 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The streams tell no reason of their own; the system call behind them left it in errno.
-std::error_code StreamError() {
-    return {errno != 0 ? errno : EIO, std::generic_category()};
-}
-
 bool IsFolder(const fs::path& path) {
     std::error_code error;
     return fs::is_directory(path, error);

@@ -1,6 +1,7 @@
 #include "core/runtime_error.h"
 
 #include <array>
+#include <cerrno>
 #include <utility>
 
 namespace tavmoor {
@@ -81,6 +82,10 @@ std::string_view ErrorText(ErrorNumber number) {
 
 RuntimeError::RuntimeError(ErrorNumber number, std::string_view detail)
     : std::runtime_error(Report(number, detail)), number_(number) {}
+
+std::error_code StreamError() {
+    return {errno != 0 ? errno : EIO, std::generic_category()};
+}
 
 RuntimeError FileError(const std::error_code& code, std::string_view path) {
     return {NumberOf(code), path};

@@ -40,6 +40,10 @@ private:
     ErrorNumber number_;
 };
 
+/// Why a file stream failed. The streams tell no reason of their own; the system call behind them
+/// left it in errno, which the caller sets to 0 before it uses the stream.
+std::error_code StreamError();
+
 /// The run-time error of a failed system call on the file that `path` names (document form).
 [[nodiscard]] RuntimeError FileError(const std::error_code& code, std::string_view path);
 
