@@ -1,0 +1,22 @@
+#include "program_application.h"
+#include "start_program.h"
+
+#include "core/runtime_error.h"
+#include "services/message_box.h"
+#include "services/qt_text.h"
+
+#include <cstdlib>
+
+int main(int argc, char** argv) {
+    tavmoor::ProgramApplication application(argc, argv);
+    tavmoor::ProgramSession session;
+    tavmoor::WindowRegistry windows;
+    application.SetSession(&session);
+    try {
+        tavmoor::StartProgram({session, windows});
+    } catch (const tavmoor::RuntimeError& error) {
+        tavmoor::ShowMessageBox(nullptr, {tavmoor::ToQString(error.what()), {}});
+        return EXIT_FAILURE;
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,47 @@
+#include "program_application.h"
+
+#include "core/recovery_file.h"
+#include "core/runtime_error.h"
+#include "services/artwork.h"
+#include "services/maker.h"
+#include "services/message_box.h"
+#include "services/qt_text.h"
+#include "services/theme.h"
+
+#include <cstdlib>
+
+namespace tavmoor {
+
+ProgramApplication::ProgramApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName(QStringLiteral("tavmoor"));
+    setApplicationDisplayName(ToQString(ProgramName));
+    setQuitOnLastWindowClosed(false);
+    setWindowIcon(ArtworkIcon(QStringLiteral("program")));
+    theme::Apply(*this);
+}
+
+bool ProgramApplication::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        ReportAndEnd(error.what());
+    }
+}
+
+void ProgramApplication::ReportAndEnd(const char* report) {
+    QString text = ToQString(report);
+    if (session_ != nullptr) {
+        try {
+            const std::string kept = WriteRecoveryFile(session_->document);
+            text += QStringLiteral("\n\nYour project was kept in ") + ToQString(kept);
+        } catch (const std::exception& error) {
+            text +=
+                QStringLiteral("\n\nYour project could not be kept: ") + ToQString(error.what());
+        }
+    }
+    ShowMessageBox(nullptr, {text, {}, BoxButtons::Ok, BoxIcon::Critical});
+    // The event loop may be many levels down, and the windows in a state that nobody knows.
+    std::_Exit(EXIT_FAILURE);
+}
+
+} // namespace tavmoor

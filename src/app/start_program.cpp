@@ -1,0 +1,36 @@
+#include "start_program.h"
+
+#include "core/build_folder.h"
+#include "core/program_folder.h"
+#include "services/program_session.h"
+#include "services/skinned_window.h"
+#include "settings/settings_windows.h"
+
+namespace tavmoor {
+
+namespace {
+
+/// Off Windows there is nothing that a check of the autorun status could mend.
+#ifdef _WIN32
+constexpr bool AutorunStatusMatters = true;
+#else
+constexpr bool AutorunStatusMatters = false;
+#endif
+
+} // namespace
+
+void StartProgram(ProgramContext context) {
+    ProgramSession& session = context.session;
+    EnsureBuildFolder();
+    session.programFolder = ProgramFolder();
+    session.settingsPath = ProgramSettingsPath(session.programFolder);
+    session.settings = ReadProgramSettings(session.settingsPath);
+    session.settings.buildFolder = BuildFolder();
+    session.document.Working.Recent = session.settings.recentProject;
+    session.autorunCheckDue = AutorunStatusMatters && session.settings.autoplayCheck;
+    RegisterSettingsWindows(context);
+    const bool splash = session.settings.programSplash && context.windows.Stands(WindowName::Form5);
+    context.windows.Open(splash ? WindowName::Form5 : WindowName::Form1);
+}
+
+} // namespace tavmoor

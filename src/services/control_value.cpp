@@ -1,0 +1,234 @@
+#include "services/control_value.h"
+
+#include "core/number_text.h"
+#include "services/color_box.h"
+#include "services/color_value.h"
+#include "services/qt_text.h"
+#include "services/text_boxes.h"
+#include "services/value_label.h"
+
+#include <QAbstractSlider>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QRadioButton>
+#include <QSpinBox>
+
+#include <limits>
+
+namespace tavmoor {
+
+namespace {
+
+/// The number of a field; texts of numbers (colours) count as well.
+double NumberOf(ConstValueRef value) {
+    return std::visit(
+        [](const auto* field) -> double {
+            if constexpr (std::is_same_v<decltype(field), const std::string*>) {
+                return ParseNumber(*field).value_or(0);
+            } else {
+                return static_cast<double>(*field);
+            }
+        },
+        value);
+}
+
+QString TextOf(ConstValueRef value) {
+    const auto* const* text = std::get_if<const std::string*>(&value);
+    return text != nullptr ? ToQString(**text) : ToQString(FormatNumber(NumberOf(value)));
+}
+
+void SetNumber(ValueRef value, std::int32_t number) {
+    std::visit(
+        [number](auto* field) {
+            using Field = std::remove_pointer_t<decltype(field)>;
+            if constexpr (std::is_same_v<Field, std::string>) {
+                field->clear();
+                AppendInteger(*field, number);
+            } else if constexpr (std::is_same_v<Field, bool>) {
+                *field = number != 0;
+            } else {
+                *field = static_cast<Field>(number);
+            }
+        },
+        value);
+}
+
+void SetText(ValueRef value, const QString& text) {
+    if (auto* const* field = std::get_if<std::string*>(&value)) {
+        **field = FromQString(text);
+    }
+}
+
+/// A text colour or back colour in the control's own style sheet, beside the other one.
+void SetStyleColor(QWidget& control, const char* property, ColorValue color) {
+    control.setProperty(property, ToQColor(color).name());
+    QString sheet;
+    for (const auto* name : {"color", "background-color"}) {
+        if (const QString given = control.property(name).toString(); !given.isEmpty()) {
+            sheet += QStringLiteral("%1: %2;").arg(QLatin1String(name), given);
+        }
+    }
+    control.setStyleSheet(QString::fromLatin1(control.metaObject()->className())
+                              .replace(QLatin1String("::"), QLatin1String("--")) +
+                          QLatin1String(" {") + sheet + QLatin1String("}"));
+}
+
+void ShowText(QWidget& control, const QString& text) {
+    if (auto* memo = qobject_cast<MemoBox*>(&control)) {
+        memo->SetProjectText(text);
+    } else if (auto* box = qobject_cast<QLineEdit*>(&control); box != nullptr) {
+        if (box->text() != text) {
+            box->setText(text);
+        }
+    }
+}
+
+QString TypedText(const QWidget& control) {
+    if (const auto* memo = qobject_cast<const MemoBox*>(&control)) {
+        return memo->ProjectText();
+    }
+    const auto* box = qobject_cast<const QLineEdit*>(&control);
+    return box != nullptr ? box->text() : QString();
+}
+
+void ShowChoice(QComboBox& box, const QString& text) {
+    // A text that the list does not have stays the field's value and is shown as such.
+    box.setPlaceholderText(text);
+    box.setCurrentIndex(box.findText(text, Qt::MatchExactly));
+}
+
+QString ChosenText(const QComboBox& box) {
+    return box.currentIndex() >= 0 ? box.currentText() : box.placeholderText();
+}
+
+void ShowNumber(QWidget& control, int number) {
+    if (auto* spin = qobject_cast<QSpinBox*>(&control)) {
+        spin->setValue(number);
+    } else if (auto* slider = qobject_cast<QAbstractSlider*>(&control)) {
+        slider->setValue(number);
+    }
+}
+
+int GivenNumber(const QWidget& control) {
+    if (const auto* spin = qobject_cast<const QSpinBox*>(&control)) {
+        return spin->value();
+    }
+    const auto* slider = qobject_cast<const QAbstractSlider*>(&control);
+    return slider != nullptr ? slider->value() : 0;
+}
+
+void ShowFontStyle(QWidget& control, FieldForm form, bool on) {
+    QFont font = control.font();
+    form == FieldForm::BoldFont ? font.setBold(on) : font.setItalic(on);
+    control.setFont(font);
+}
+
+void ShowOption(QRadioButton& button, bool chosen) {
+    // In a group of exclusive buttons, only the chosen one is set: none may be chosen.
+    button.setAutoExclusive(false);
+    button.setChecked(chosen);
+    button.setAutoExclusive(true);
+}
+
+} // namespace
+
+void ShowInControl(QWidget& control, const FieldBinding& row, ConstValueRef value) {
+    const auto number = static_cast<std::int32_t>(NumberOf(value));
+    switch (row.form) {
+    case FieldForm::Text:
+        ShowText(control, TextOf(value));
+        break;
+    case FieldForm::Shown:
+        qobject_cast<ValueLabel*>(&control)->SetFullText(TextOf(value));
+        break;
+    case FieldForm::Checked:
+        qobject_cast<QCheckBox*>(&control)->setChecked(number != 0);
+        break;
+    case FieldForm::Choice:
+        ShowChoice(*qobject_cast<QComboBox*>(&control), TextOf(value));
+        break;
+    case FieldForm::Number:
+        ShowNumber(control, number);
+        break;
+    case FieldForm::Option:
+        ShowOption(*qobject_cast<QRadioButton*>(&control), number == row.value);
+        break;
+    case FieldForm::Color:
+        qobject_cast<ColorBox*>(&control)->SetColor(number);
+        break;
+    case FieldForm::TextColor:
+        SetStyleColor(control, "color", number);
+        break;
+    case FieldForm::BackColor:
+        SetStyleColor(control, "background-color", number);
+        break;
+    case FieldForm::BoldFont:
+    case FieldForm::ItalicFont:
+        ShowFontStyle(control, row.form, number != 0);
+        break;
+    }
+}
+
+void TakeFromControl(const QWidget& control, const FieldBinding& row, ValueRef value) {
+    switch (row.form) {
+    case FieldForm::Text:
+        SetText(value, TypedText(control));
+        break;
+    case FieldForm::Checked:
+        SetNumber(value, qobject_cast<const QCheckBox*>(&control)->isChecked() ? 1 : 0);
+        break;
+    case FieldForm::Choice:
+        SetText(value, ChosenText(*qobject_cast<const QComboBox*>(&control)));
+        break;
+    case FieldForm::Number:
+        SetNumber(value, GivenNumber(control));
+        break;
+    case FieldForm::Option:
+        if (qobject_cast<const QRadioButton*>(&control)->isChecked()) {
+            SetNumber(value, row.value);
+        }
+        break;
+    case FieldForm::Color:
+        SetNumber(value, qobject_cast<const ColorBox*>(&control)->Color());
+        break;
+    default:
+        break; // chosen elsewhere
+    }
+}
+
+void WhenEdited(QWidget& control, FieldForm form, QObject* receiver, std::function<void()> edited) {
+    const auto call = [edited = std::move(edited)] { edited(); };
+    switch (form) {
+    case FieldForm::Text:
+        if (auto* memo = qobject_cast<MemoBox*>(&control)) {
+            QObject::connect(memo, &MemoBox::Edited, receiver, call);
+        } else {
+            QObject::connect(qobject_cast<QLineEdit*>(&control), &QLineEdit::textEdited, receiver,
+                             call);
+        }
+        break;
+    case FieldForm::Checked:
+        QObject::connect(qobject_cast<QCheckBox*>(&control), &QCheckBox::toggled, receiver, call);
+        break;
+    case FieldForm::Choice:
+        QObject::connect(qobject_cast<QComboBox*>(&control), &QComboBox::currentIndexChanged,
+                         receiver, call);
+        break;
+    case FieldForm::Number:
+        if (auto* spin = qobject_cast<QSpinBox*>(&control)) {
+            QObject::connect(spin, &QSpinBox::valueChanged, receiver, call);
+        } else {
+            QObject::connect(qobject_cast<QAbstractSlider*>(&control),
+                             &QAbstractSlider::valueChanged, receiver, call);
+        }
+        break;
+    case FieldForm::Option:
+        QObject::connect(qobject_cast<QRadioButton*>(&control), &QRadioButton::toggled, receiver,
+                         call);
+        break;
+    default:
+        break; // chosen elsewhere
+    }
+}
+
+} // namespace tavmoor

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/program_settings.h"
+#include "core/project_document.h"
+#include "core/project_reset.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tavmoor {
+
+/// What one run of the program works on; every window has a reference to the one instance, which
+/// lives as long as the main window. Texts and paths as in the core.
+struct ProgramSession {
+    std::string programFolder; ///< document form, no backslash at its end
+    std::string settingsPath;  ///< of `tavmoor.ini`
+    ProgramSettings settings;
+    ProjectDocument document = NewProjectDocument();
+
+    /// The result of a colour choice: "" while it is open, CancelledResult, or a decimal colour.
+    std::string MenuResult;
+    /// What the main window's menu was asked for, 0 for nothing; see MenuAction.
+    std::int16_t menuAction = 0;
+    /// The canvas was opened since the program started.
+    bool VisualEditorOpened = false;
+    /// The autorun status is still to be checked when the main window first comes up.
+    bool autorunCheckDue = false;
+};
+
+/// A colour choice that the user cancelled.
+inline constexpr std::string_view CancelledResult = "999999999";
+
+/// `programFolder`\`name`, with one backslash between them.
+std::string InProgramFolder(const ProgramSession& session, std::string_view name);
+
+} // namespace tavmoor
