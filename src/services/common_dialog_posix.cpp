@@ -1,0 +1,9 @@
+#include "services/shell_dialogs.h"
+
+namespace tavmoor {
+
+bool ShowPlatformShellDialog(const ShellRequest& /*request*/) {
+    return false;
+}
+
+} // namespace tavmoor

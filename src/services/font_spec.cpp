@@ -1,0 +1,35 @@
+#include "services/font_spec.h"
+
+#include "core/number_text.h"
+#include "core/value_encoding.h"
+#include "services/qt_text.h"
+
+namespace tavmoor {
+
+namespace {
+
+constexpr int UsualPoints = 10;
+/// The largest size that font dialogs take.
+constexpr int MostPoints = 1638;
+
+} // namespace
+
+int FontPoints(std::string_view size) {
+    const auto points = ParseInteger<int>(RoundSize(size));
+    return points && *points >= 1 && *points <= MostPoints ? *points : UsualPoints;
+}
+
+QFont ToQFont(const FontSpec& spec) {
+    QFont font;
+    if (!spec.name.empty()) {
+        font.setFamily(ToQString(spec.name));
+    }
+    font.setPointSize(FontPoints(spec.size));
+    font.setBold(spec.bold);
+    font.setItalic(spec.italic);
+    font.setUnderline(spec.underline);
+    font.setStrikeOut(spec.strikeOut);
+    return font;
+}
+
+} // namespace tavmoor
