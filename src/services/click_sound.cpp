@@ -1,0 +1,52 @@
+#include "services/click_sound.h"
+
+#include "core/document_path.h"
+#include "core/file_store.h"
+#include "services/native_path_text.h"
+#include "services/service_slot.h"
+
+#include <QAudioDevice>
+#include <QCoreApplication>
+#include <QMediaDevices>
+#include <QPointer>
+#include <QSoundEffect>
+#include <QUrl>
+
+namespace tavmoor {
+
+namespace {
+
+class QtClickSoundPlayer final : public ClickSoundPlayer {
+public:
+    void Play(const std::filesystem::path& file) override {
+        delete effect_;
+        if (QMediaDevices::defaultAudioOutput().isNull()) {
+            return;
+        }
+        effect_ = new QSoundEffect(QCoreApplication::instance());
+        effect_->setSource(QUrl::fromLocalFile(NativePathText(file)));
+        effect_->play();
+    }
+
+private:
+    QPointer<QSoundEffect> effect_;
+};
+
+ClickSoundPlayer& SystemClickSoundPlayer() {
+    if (auto* replacement = ServiceSlot<ClickSoundPlayer>::Replacement()) {
+        return *replacement;
+    }
+    static QtClickSoundPlayer player;
+    return player;
+}
+
+} // namespace
+
+void PlayClickSoundIgnoringErrors(std::string_view path) {
+    const auto native = FindNativePath(path);
+    if (native && FileExists(path)) {
+        SystemClickSoundPlayer().Play(*native);
+    }
+}
+
+} // namespace tavmoor

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+namespace tavmoor {
+
+// What the maker supplies; nothing of it stands anywhere else. All of it is plain ASCII, so that it
+// is the same in every code page.
+
+inline constexpr std::string_view ProgramName = "Tavmoor";
+inline constexpr std::string_view VersionText = "Tavmoor, version 7.9.2, Orlenta";
+
+inline constexpr std::string_view MakerWebPage = "https://www.tavmoor.example";
+inline constexpr std::string_view MakerMailAddress = "contact@tavmoor.example";
+inline constexpr std::string_view MakerMailSubject = ProgramName;
+
+/// Tells whether there is a newer release than this one.
+inline constexpr std::string_view UpdateAddress =
+    "https://www.tavmoor.example/tavmoor-vercheck.php?ver=790";
+
+} // namespace tavmoor

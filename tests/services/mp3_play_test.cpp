@@ -1,0 +1,149 @@
+#include "services/mp3_play.h"
+
+#include "services/click_sound.h"
+#include "services/media_device.h"
+#include "services/service_slot.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDeadlineTimer>
+
+namespace tavmoor {
+
+namespace {
+
+/// Behaves as the device does, with a clock that stands still.
+class FakeDevice final : public MediaDevice {
+public:
+    QString Open(const std::filesystem::path& file) override {
+        if (isOpen) {
+            return QStringLiteral("in use");
+        }
+        isOpen = refusal.isEmpty();
+        opened = file;
+        position = 0;
+        return refusal;
+    }
+    void Play() override { isPlaying = isOpen; }
+    void Pause() override { isPlaying = false; }
+    void Stop() override { isPlaying = false; }
+    void Close() override { isOpen = isPlaying = false; }
+    void Seek(std::int64_t to) override {
+        isPlaying = false; // as devices do that have no way to seek while they play
+        position = to;
+    }
+    [[nodiscard]] bool IsPlaying() const override { return isPlaying; }
+    [[nodiscard]] std::int64_t Position() const override { return position; }
+    [[nodiscard]] std::int64_t Length() const override { return length; }
+
+    QString refusal;
+    std::filesystem::path opened;
+    bool isOpen = false;
+    bool isPlaying = false;
+    std::int64_t position = 0;
+    std::int64_t length = 0;
+
+private:
+    ScopedService<MediaDevice> slot_{*this};
+};
+
+/// A wav file with a tenth of a second of silence.
+std::string Wav() {
+    constexpr unsigned char samples = 160;
+    std::string bytes("RIFF\xC4\0\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x40\x06\0\0\x40\x06\0\0\1\0\x08\0"
+                      "data\xA0\0\0\0",
+                      44);
+    return bytes.append(samples, '\x80');
+}
+
+} // namespace
+
+TEST(MP3Play, PlaysOneFileAtATimeAndTellsWhyNot) {
+    const test::TemporaryFolder folder;
+    const std::string song = folder.Write("My Song.mp3", "x");
+    FakeDevice device;
+    {
+        MP3Play player;
+        EXPECT_EQ(player.mmPlay(), QStringLiteral("Error with input file"));
+        player.SetFileName(folder.Document());
+        EXPECT_EQ(player.mmPlay(), QStringLiteral("Error with input file"));
+        player.SetFileName(song + "x");
+        EXPECT_EQ(player.mmPlay(), QStringLiteral("Error with input file"));
+        EXPECT_FALSE(device.isOpen);
+
+        player.SetFileName(song);
+        EXPECT_EQ(player.mmPlay(), QStringLiteral("Success"));
+        EXPECT_EQ(device.opened, folder.Native("My Song.mp3"));
+        EXPECT_TRUE(player.IsPlaying());
+
+        MP3Play other;
+        other.SetFileName(song);
+        EXPECT_EQ(other.mmPlay(), QStringLiteral("in use"));
+        other.mmPause();
+        EXPECT_FALSE(player.IsPlaying());
+        player.mmStop();
+        EXPECT_EQ(other.mmPlay(), QStringLiteral("Success"));
+    }
+    EXPECT_FALSE(device.isOpen);
+
+    MP3Play refused;
+    refused.SetFileName(song);
+    device.refusal = QStringLiteral("no codec");
+    EXPECT_EQ(refused.mmPlay(), QStringLiteral("no codec"));
+    EXPECT_FALSE(refused.IsPlaying());
+}
+
+TEST(MP3Play, TellsTimesInSecondsAndGoesOnPlayingAfterASeek) {
+    FakeDevice device;
+    MP3Play player;
+    EXPECT_EQ(player.PositionInSec(), QStringLiteral("0:00"));
+    const struct {
+        std::int64_t milliseconds;
+        int seconds;
+        const char* text;
+    } cases[] = {{2500, 2, "0:02"},      {3500, 4, "0:04"},       {59499, 59, "0:59"},
+                 {59501, 60, "1:00"},    {65000, 65, "1:05"},     {599000, 599, "9:59"},
+                 {610000, 610, "10:10"}, {3661000, 3661, "61:01"}};
+    for (const auto& expected : cases) {
+        device.position = device.length = expected.milliseconds;
+        EXPECT_EQ(player.Position(), expected.seconds);
+        EXPECT_EQ(player.Length(), expected.seconds);
+        EXPECT_EQ(player.PositionInSec(), QLatin1String(expected.text));
+        EXPECT_EQ(player.LengthInSec(), QLatin1String(expected.text));
+    }
+
+    player.SeekTo(1500);
+    EXPECT_EQ(device.position, 1500);
+    EXPECT_FALSE(player.IsPlaying());
+    device.isOpen = device.isPlaying = true;
+    player.SeekTo(2500);
+    EXPECT_EQ(device.position, 2500);
+    EXPECT_TRUE(player.IsPlaying());
+}
+
+/// With or without a sound device, with good files or bad ones, the true device answers in time.
+TEST(MP3Play, AnswersInTimeOnTheTrueDevice) {
+    const test::TemporaryFolder folder;
+    const QDeadlineTimer limit(20000);
+    MP3Play player;
+    for (const std::string& content : {Wav(), std::string(5000, 'x'), std::string()}) {
+        player.SetFileName(folder.Write("sound.wav", content));
+        const QString result = player.mmPlay();
+        EXPECT_FALSE(result.isEmpty());
+        const bool plays = result == QStringLiteral("Success");
+        RecordProperty("result", result.toStdString());
+        EXPECT_FALSE(plays && content != Wav());
+        EXPECT_EQ(player.Length(), 0);
+        player.SeekTo(0);
+        player.mmPause();
+        player.mmStop();
+        EXPECT_FALSE(player.IsPlaying());
+        EXPECT_EQ(player.Position(), 0);
+    }
+    PlayClickSoundIgnoringErrors(folder.Write("click.wav", Wav()));
+    PlayClickSoundIgnoringErrors(folder.Document("missing.wav"));
+    EXPECT_FALSE(limit.hasExpired());
+}
+
+} // namespace tavmoor
