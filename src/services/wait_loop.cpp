@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <QTimer>
+#include <QVariant>
 
 namespace tavmoor {
 
@@ -35,7 +36,7 @@ bool WaitUntil(const std::function<bool()>& done, const QObject* owner) {
 void WaitFor(std::chrono::milliseconds time) {
     QElapsedTimer timer;
     timer.start();
-    WaitUntil([&] { return timer.durationElapsed() >= time; }, QCoreApplication::instance());
+    WaitUntil([&] { return timer.hasExpired(time.count()); }, QCoreApplication::instance());
 }
 
 void LetEventsRun() {

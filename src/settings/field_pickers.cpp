@@ -24,7 +24,7 @@ std::optional<std::string> PickFile(QWidget& owner, const FilePick& pick) {
 
 std::optional<std::string> PickCheckedFile(QWidget& owner, const FilePick& pick) {
     auto path = PickFile(owner, pick);
-    if (path && FileNameIsRefused(&owner, *path)) {
+    if (path && CheckFileName(&owner, *path)) {
         return std::nullopt;
     }
     return path;
@@ -43,7 +43,7 @@ void PickPicture(ProgramContext context, QWidget& owner, std::string_view title,
 
 void TakePicture(ProgramContext context, QWidget& owner, const std::string& path,
                  const std::function<void(const std::string& path)>& store) {
-    if (FileNameIsRefused(&owner, path)) {
+    if (CheckFileName(&owner, path)) {
         return;
     }
     store(path);

@@ -18,6 +18,7 @@
 #include "settings/main_window_panels.h"
 #include "settings/picture_preview_window.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 
