@@ -1,10 +1,12 @@
 #pragma once
 
+#include "core/project_document.h"
 #include "services/font_spec.h"
 #include "services/window_registry.h"
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>

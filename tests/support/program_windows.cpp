@@ -1,0 +1,83 @@
+#include "support/program_windows.h"
+
+#include "settings/settings_windows.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <QtTest/QTest>
+
+namespace tavmoor::test {
+
+ProgramWindows::ProgramWindows() {
+    session.programFolder = folder.Document("program");
+    session.settingsPath = folder.Document("program/tavmoor.ini");
+    std::filesystem::create_directories(folder.Native("program"));
+    RegisterSettingsWindows(Context());
+}
+
+ProgramWindows::~ProgramWindows() {
+    windows.UnloadAll();
+    windows.Unload(WindowName::Form1);
+    Settle();
+}
+
+void ProgramWindows::ClickAt(QWidget& control, QPoint place) {
+    ASSERT_TRUE(control.isEnabled()) << control.objectName().toStdString();
+    ASSERT_TRUE(control.isVisible()) << control.objectName().toStdString();
+    QTest::mouseClick(&control, Qt::LeftButton, {}, place);
+    Settle();
+}
+
+void ProgramWindows::Click(QWidget& control) {
+    ClickAt(control, control.rect().center());
+}
+
+void ProgramWindows::DoubleClick(QWidget& window, const char* name) {
+    auto& control = Find(window, name);
+    auto* area = qobject_cast<QAbstractScrollArea*>(&control);
+    QTest::mouseDClick(area != nullptr ? area->viewport() : &control, Qt::LeftButton);
+    Settle();
+}
+
+void ProgramWindows::Type(QWidget& window, const char* name, const QString& text) {
+    auto& control = Find(window, name);
+    control.setFocus();
+    QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&control, Qt::Key_Delete);
+    QTest::keyClicks(&control, text);
+    Settle();
+}
+
+void ProgramWindows::PressKey(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&control, key, modifiers);
+    Settle();
+}
+
+bool ProgramWindows::Drop(QWidget& control, const std::filesystem::path& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path.string()))});
+    const QPoint place = control.rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&control, &enter);
+    if (!enter.isAccepted()) {
+        return false;
+    }
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&control, &drop);
+    Settle();
+    return drop.isAccepted();
+}
+
+void ProgramWindows::Settle() {
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+SkinnedWindow* ProgramWindows::Shown(WindowName name) const {
+    SkinnedWindow* window = windows.Find(name);
+    return window != nullptr && window->isVisible() ? window : nullptr;
+}
+
+} // namespace tavmoor::test
