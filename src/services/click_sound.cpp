@@ -4,10 +4,9 @@
 #include "core/file_store.h"
 #include "services/native_path_text.h"
 #include "services/service_slot.h"
+#include "services/sound_output.h"
 
-#include <QAudioDevice>
 #include <QCoreApplication>
-#include <QMediaDevices>
 #include <QPointer>
 #include <QSoundEffect>
 #include <QUrl>
@@ -20,7 +19,7 @@ class QtClickSoundPlayer final : public ClickSoundPlayer {
 public:
     void Play(const std::filesystem::path& file) override {
         delete effect_;
-        if (QMediaDevices::defaultAudioOutput().isNull()) {
+        if (!SoundOutputObjection().isEmpty()) {
             return;
         }
         effect_ = new QSoundEffect(QCoreApplication::instance());

@@ -1,12 +1,11 @@
 #include "services/media_device.h"
 #include "services/native_path_text.h"
 #include "services/service_slot.h"
+#include "services/sound_output.h"
 
-#include <QAudioDevice>
 #include <QAudioOutput>
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QMediaDevices>
 #include <QMediaPlayer>
 #include <QPointer>
 #include <QTimer>
@@ -65,15 +64,11 @@ public:
         if (player_) {
             return QStringLiteral("The sound device is already in use.");
         }
-        if (QMediaDevices::defaultAudioOutput().isNull()) {
-            return QStringLiteral("This computer has no sound device.");
+        if (QString objection = SoundOutputObjection(); !objection.isEmpty()) {
+            return objection;
         }
         // The application ends the player when nobody closes it.
         player_ = new QMediaPlayer(QCoreApplication::instance());
-        if (!player_->isAvailable()) {
-            Close();
-            return QStringLiteral("No software that plays sound files is installed.");
-        }
         player_->setAudioOutput(new QAudioOutput(player_));
         player_->setSource(QUrl::fromLocalFile(NativePathText(file)));
         const QString failure = WaitForFile(player_);

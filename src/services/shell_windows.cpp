@@ -15,14 +15,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The system's own words for an error.
+/// The system's own words for an error, on one line.
 std::string SystemMessage(DWORD error) {
     std::array<wchar_t, 512> text{};
-    const DWORD length =
-        FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error,
-                       0, text.data(), static_cast<DWORD>(text.size()), nullptr);
-    return length == 0 ? "error " + std::to_string(error)
-                       : NarrowText(std::wstring_view(text.data(), length));
+    const DWORD length = FormatMessageW(
+        FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK,
+        nullptr, error, 0, text.data(), static_cast<DWORD>(text.size()), nullptr);
+    const std::wstring_view message(text.data(), length);
+    const std::size_t last = message.find_last_not_of(L' ');
+    return last == std::wstring_view::npos ? "error " + std::to_string(error)
+                                           : NarrowText(message.substr(0, last + 1));
 }
 
 /// One argument of a command line, quoted as programs take command lines apart: backslashes are
