@@ -1,0 +1,22 @@
+#pragma once
+
+#include "services/picture_format.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace tavmoor {
+
+/// What the frame of a raster picture tells before anything of it is decoded.
+struct RasterOutline {
+    /// The file holds all the data it announces. Decoders fill up what is missing with grey.
+    bool whole = false;
+    /// Memory that decoding takes at most for each pixel.
+    std::uint32_t bytesPerPixel = 4;
+    /// Which of several pictures to take: of icons and cursors the one nearest to 32 by 32.
+    int index = 0;
+};
+
+RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes);
+
+} // namespace tavmoor

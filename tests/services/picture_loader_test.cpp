@@ -1,0 +1,254 @@
+#include "services/picture_loader.h"
+
+#include "services/file_name_check.h"
+#include "services/picture_format_check.h"
+#include "services/svg_check.h"
+#include "support/metafile_bytes.h"
+#include "support/scripted_answers.h"
+#include "support/temporary_folder.h"
+
+#include <QBuffer>
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+namespace tavmoor {
+
+using test::Emf;
+using test::EmfRecord;
+using test::Longs;
+using test::TemporaryFolder;
+using test::Wmf;
+using test::WmfRecord;
+using test::Words;
+
+namespace {
+
+constexpr QRgb Red = 0xFFFF0000;
+
+/// 24 rows of 32 pixels, all red but for a blue corner.
+QImage Sample() {
+    QImage image(32, 24, QImage::Format_RGB32);
+    image.fill(QColor(Qt::red));
+    image.setPixelColor(0, 0, Qt::blue);
+    return image;
+}
+
+std::string Encoded(const char* format) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(Sample().save(&buffer, format, 100)) << format;
+    return bytes.toStdString();
+}
+
+/// One pixel of red.
+std::string Gif() {
+    using namespace std::string_literals;
+    return "GIF89a\x01\0\x01\0\x80\0\0\xFF\0\0\0\0\0,\0\0\0\0\x01\0\x01\0\0\x02\x02\x44\x01\0;"s;
+}
+
+/// 32 by 32 pixels of one colour, 0xAARRGGBB, with an empty mask; kind 1 is an icon, 2 a cursor.
+std::string IconOfSize(int kind, int size, std::int64_t colour) {
+    std::string pixels;
+    for (int i = 0; i < size * size; ++i) {
+        pixels += Longs({colour});
+    }
+    const std::string mask(static_cast<std::size_t>(size * ((size + 31) / 32 * 4)), '\0');
+    const std::string bitmap =
+        Longs({40, size, size * 2}) + Words({1, 32}) + Longs({0, 0, 0, 0, 0, 0}) + pixels + mask;
+    return Words({0, kind, 1}) + static_cast<char>(size) + static_cast<char>(size) +
+           std::string(2, '\0') + Words({1, kind == 1 ? 32 : 5}) +
+           Longs({static_cast<std::int64_t>(bitmap.size()), 22}) + bitmap;
+}
+
+std::string FilledRectangleWmf() {
+    return Wmf(40, 30,
+               WmfRecord(0x02FC, Words({0, 0xFF, 0, 0})) + WmfRecord(0x012D, Words({0})) +
+                   WmfRecord(0x041B, Words({25, 35, 5, 5})));
+}
+
+std::string FilledRectangleEmf() {
+    return Emf(40, 30, 3,
+               EmfRecord(39, Longs({1, 0, 0xFF, 0})) + EmfRecord(37, Longs({1})) +
+                   EmfRecord(43, Longs({5, 5, 35, 25})));
+}
+
+class PictureLoaderTest : public testing::Test {
+protected:
+    PictureResult Load(const std::string& bytes) {
+        return LoadPicture(folder_.Write("picture.dat", bytes));
+    }
+    PictureFault FaultOf(const std::string& bytes) {
+        const PictureResult result = Load(bytes);
+        EXPECT_EQ(result.fault == PictureFault::None, !result.image.isNull());
+        return result.fault;
+    }
+    /// Every shorter file is refused; the last `spare` bytes may be missing.
+    void ExpectWholeOnly(const std::string& bytes, std::size_t spare, std::size_t step) {
+        for (std::size_t length = 0; length + spare < bytes.size(); length += step) {
+            EXPECT_NE(FaultOf(bytes.substr(0, length)), PictureFault::None)
+                << length << " of " << bytes.size();
+        }
+    }
+
+    TemporaryFolder folder_;
+};
+
+} // namespace
+
+TEST_F(PictureLoaderTest, LoadsEveryFormatByItsContent) {
+    const std::pair<std::string, QSize> cases[] = {
+        {Encoded("BMP"), {32, 24}},         {Encoded("PNG"), {32, 24}},
+        {Encoded("JPG"), {32, 24}},         {Gif(), {1, 1}},
+        {IconOfSize(1, 32, Red), {32, 32}}, {IconOfSize(2, 32, Red), {32, 32}},
+        {FilledRectangleWmf(), {40, 30}},   {FilledRectangleEmf(), {40, 30}},
+    };
+    for (const auto& [bytes, size] : cases) {
+        const PictureResult result = Load(bytes);
+        ASSERT_EQ(result.fault, PictureFault::None) << bytes.substr(0, 4);
+        EXPECT_EQ(result.image.size(), size);
+        EXPECT_EQ(PictureSize(folder_.Document("picture.dat")), size);
+        const QColor middle = result.image.pixelColor(size.width() / 2, size.height() / 2);
+        EXPECT_GT(middle.red(), 250) << bytes.substr(0, 4);
+        EXPECT_LT(middle.green() + middle.blue(), 10) << bytes.substr(0, 4);
+    }
+}
+
+TEST_F(PictureLoaderTest, RefusesWhatIsCutOffOrNoPicture) {
+    EXPECT_EQ(LoadPicture(folder_.Document("missing.jpg")).fault, PictureFault::Unreadable);
+    EXPECT_EQ(LoadPicture(folder_.Document()).fault, PictureFault::Unreadable);
+    EXPECT_EQ(FaultOf(""), PictureFault::UnknownFormat);
+    EXPECT_EQ(FaultOf("just a text"), PictureFault::UnknownFormat);
+    ExpectWholeOnly(Encoded("BMP"), 0, 37);
+    ExpectWholeOnly(Encoded("PNG"), 12, 1); // its end chunk
+    ExpectWholeOnly(Encoded("JPG"), 0, 1);
+    ExpectWholeOnly(Gif(), 1, 1);
+    ExpectWholeOnly(IconOfSize(1, 32, Red), 0, 97);
+    ExpectWholeOnly(FilledRectangleWmf(), 0, 1);
+    ExpectWholeOnly(FilledRectangleEmf(), 0, 1);
+}
+
+TEST_F(PictureLoaderTest, RefusesHugeDimensionsBeforeDecoding) {
+    std::string gif = Gif();
+    gif.replace(6, 4, Words({65535, 65535}));
+    gif.replace(gif.find(',') + 5, 4, Words({65535, 65535}));
+    EXPECT_NE(FaultOf(gif), PictureFault::None);
+    std::string packed = Encoded("BMP").substr(0, 54);
+    packed.replace(18, 8, Longs({60000, 60000}));
+    packed.replace(28, 6, Words({8, 1, 0}));
+    EXPECT_EQ(FaultOf(packed + std::string(1100, '\0')), PictureFault::TooLarge);
+    std::string jpg = Encoded("JPG");
+    const std::size_t frame = jpg.find("\xFF\xC0");
+    ASSERT_NE(frame, std::string::npos);
+    jpg.replace(frame + 5, 4, "\xFF\xF0\xFF\xF0");
+    EXPECT_EQ(FaultOf(jpg), PictureFault::TooLarge);
+    EXPECT_EQ(FaultOf(Wmf(32000, 32000, {})), PictureFault::TooLarge);
+    EXPECT_EQ(FaultOf(Emf(100000, 100000, 0, {})), PictureFault::TooLarge);
+}
+
+TEST_F(PictureLoaderTest, SurvivesHostileMetafiles) {
+    // Counts that go far beyond their records.
+    EXPECT_EQ(FaultOf(Wmf(9, 9,
+                          WmfRecord(0x0324, Words({32767, 1, 1})) +
+                              WmfRecord(0x0538, Words({9999, 9999, 3})) +
+                              WmfRecord(0x0521, Words({30000})) + WmfRecord(0x0F43, "xx") +
+                              WmfRecord(0x0127, Words({-7})) + WmfRecord(0x012D, Words({77})) +
+                              WmfRecord(0x020C, Words({0, 0})) + WmfRecord(0x0817, {}))),
+              PictureFault::None);
+    // An endless record, and a list that does not end.
+    std::string endless = FilledRectangleWmf();
+    endless.replace(40, 4, Longs({0}));
+    EXPECT_EQ(FaultOf(endless), PictureFault::Damaged);
+    for (const std::int64_t kind : {2, 3, 8, 16, 56, 76, 81, 82, 84, 85, 95}) {
+        const std::string broken = EmfRecord(kind, std::string(60, '\xEE'));
+        FaultOf(Emf(9, 9, 1, broken)); // whatever it says, the program goes on
+    }
+    // Wildly changed bytes.
+    const std::string whole = FilledRectangleEmf();
+    for (std::size_t at = 0; at < whole.size(); at += 5) {
+        std::string changed = whole;
+        changed[at] = static_cast<char>(changed[at] ^ 0x7F);
+        FaultOf(changed);
+    }
+}
+
+TEST_F(PictureLoaderTest, GivesUpAMetafileThatPaintsWithoutEnd) {
+    std::string records;
+    for (int i = 0; i < 300'000; ++i) {
+        records += WmfRecord(0x0418, Words({3000, 3000, 0, 0}));
+    }
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(FaultOf(Wmf(3000, 3000, records)), PictureFault::Damaged);
+    EXPECT_LT(clock.elapsed(), 20'000);
+}
+
+TEST_F(PictureLoaderTest, WmfDrawsTextBitmapsAndClips) {
+    const std::string bitmap = Longs({40, 1, 1}) + Words({1, 24}) + Longs({0, 0, 0, 0, 0, 0}) +
+                               std::string("\0\xFF\0\0", 4);
+    const PictureResult result = Load(
+        Wmf(100, 60,
+            WmfRecord(0x0F43, Longs({0xCC0020}) + Words({0, 1, 1, 0, 0, 20, 20, 0, 80}) + bitmap) +
+                WmfRecord(0x0102, Words({1})) + WmfRecord(0x0209, Words({0xFF, 0})) +
+                WmfRecord(0x02FB, Words({-40, 0, 0, 0, 700, 0, 0, 0, 0}) + "DejaVu Sans") +
+                WmfRecord(0x012D, Words({0})) + WmfRecord(0x0416, Words({60, 40, 0, 0})) +
+                WmfRecord(0x0521, Words({4}) + "MMMM" + Words({5, 0}))));
+    ASSERT_EQ(result.fault, PictureFault::None);
+    EXPECT_EQ(result.image.pixelColor(90, 10), QColor(Qt::green));
+    bool hasText = false;
+    for (int y = 0; y < 60; ++y) {
+        for (int x = 0; x < 100; ++x) {
+            const QColor pixel = result.image.pixelColor(x, y);
+            hasText = hasText || (x < 40 && pixel == QColor(Qt::red));
+            EXPECT_FALSE(x > 41 && pixel.red() > 100) << "outside the clip";
+        }
+    }
+    EXPECT_TRUE(hasText);
+}
+
+TEST(SvgCheck, RefusesWhatReachesOutside) {
+    const auto check = [](const char* inside) {
+        return IsSelfContainedSvg("<svg xmlns:xlink='http://www.w3.org/1999/xlink'>" +
+                                      QByteArray(inside) + "</svg>",
+                                  1000);
+    };
+    EXPECT_TRUE(check("<use xlink:href='#a'/><rect fill='url(#b)'/><text>href='x'</text>"));
+    EXPECT_FALSE(check("<image xlink:href='/etc/hostname'/>"));
+    EXPECT_FALSE(check("<image href='file:///etc/hostname'/>"));
+    EXPECT_FALSE(check("<image href='data:image/png;base64,AAAA'/>"));
+    EXPECT_FALSE(check("<rect style='fill: url( http://a.example/x )'/>"));
+    EXPECT_FALSE(check("<style>@import 'x';</style>"));
+    EXPECT_FALSE(check("<g>"));
+    EXPECT_FALSE(IsSelfContainedSvg("<!DOCTYPE svg [<!ENTITY a 'b'>]><svg>&a;</svg>", 1000));
+}
+
+TEST_F(PictureLoaderTest, CheckAsksAndOpensTheWorkaround) {
+    std::vector<std::string> opened;
+    const PictureFormatChecker checker(nullptr, "C:\\Tavmoor",
+                                       [&](const std::string& path) { opened.push_back(path); });
+    test::ScriptedBoxes boxes({BoxAnswer::Yes, BoxAnswer::No});
+    const std::string text = folder_.Write("text.jpg", "no picture");
+    EXPECT_EQ(checker.PictureFormatCheck(folder_.Write("good.jpg", Encoded("BMP"))), -1);
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_EQ(checker.PictureFormatCheck(text), 0);
+    EXPECT_EQ(checker.PictureFormatCheck(text), 0);
+    EXPECT_EQ(opened, std::vector<std::string>{"C:\\Tavmoor\\jpeg_compability.htm"});
+    ASSERT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Warning"));
+    EXPECT_EQ(boxes.shown[0].text,
+              QStringLiteral("Picture format compatibility problem. Click YES to see workaround "
+                             "for the problem..."));
+}
+
+TEST(FileNameCheck, ShowsWhyAFileIsRefused) {
+    test::ScriptedBoxes boxes({BoxAnswer::Ok});
+    EXPECT_FALSE(CheckFileName(nullptr, ""));
+    EXPECT_FALSE(CheckFileName(nullptr, "C:\\\xC8 folder\\my file (1).jpg"));
+    EXPECT_TRUE(CheckFileName(nullptr, "C:\\a\\one,two.jpg"));
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(boxes.shown[0].text.contains(
+        QStringLiteral("Filename [one,two.jpg] must be changed to English filename.")));
+}
+
+} // namespace tavmoor
