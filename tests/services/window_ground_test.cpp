@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QTimer>
 #include <QtTest/QTest>
 
 namespace tavmoor {
