@@ -17,7 +17,7 @@ namespace tavmoor {
 
 namespace {
 
-constexpr qint64 MostMilliseconds = 5000;
+constexpr qint64 MostMilliseconds = 3000;
 constexpr qint64 MostBitmapPixels = 24'000'000;
 constexpr std::size_t MostSavedStates = 256;
 constexpr std::size_t MostObjects = 65536;
