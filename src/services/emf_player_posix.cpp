@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -19,6 +20,10 @@ constexpr std::size_t MostSvgBytes = 12'000'000;
 constexpr qint64 MostEmbeddedPixels = 16'000'000;
 /// Each record may paint every pixel once: some 5 s on a slow machine.
 constexpr double MostPaintedPixels = 15e9;
+
+/// An edge of a polygon may cross every line of pixels once, and each crossing is sorted among the
+/// others: some 5 s on a slow machine.
+constexpr double MostCrossedLines = 10e6;
 
 /// @return "" for a file that the library refuses
 std::string SvgOf(std::string bytes, const PixelTarget& target) {
@@ -36,18 +41,23 @@ std::string SvgOf(std::string bytes, const PixelTarget& target) {
     return text;
 }
 
-/// Renders at the size of the target, or smaller and enlarged where very many records would take
-/// long; rendering cannot be interrupted.
-void Render(QSvgRenderer& renderer, std::size_t records, const PixelTarget& target) {
+/// How much smaller than the target to render, 1 for not at all.
+double RenderScale(std::size_t records, qint64 points, const PixelTarget& target) {
+    const double painted = static_cast<double>(records) * target.width * target.height;
+    const double crossed = static_cast<double>(points) * target.height;
+    return std::min({1.0, std::sqrt(MostPaintedPixels / painted), MostCrossedLines / crossed});
+}
+
+/// Renders at the size of the target, or smaller and enlarged where very many records or points
+/// would take long; rendering cannot be interrupted.
+void Render(QSvgRenderer& renderer, double scale, const PixelTarget& target) {
     QImage image(target.pixels, target.width, target.height, target.bytesPerRow,
                  QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
-    const double painted = static_cast<double>(records) * target.width * target.height;
-    if (painted <= MostPaintedPixels) {
+    if (scale >= 1.0) {
         renderer.render(&painter, QRectF(image.rect()));
         return;
     }
-    const double scale = std::sqrt(MostPaintedPixels / painted);
     QImage small((QSizeF(image.size()) * scale).toSize().expandedTo({1, 1}),
                  QImage::Format_ARGB32_Premultiplied);
     small.fill(Qt::transparent);
@@ -77,7 +87,7 @@ bool PlayEmf(std::string_view bytes, const MetafileOutline& outline, const Pixel
     if (!renderer.isValid()) {
         return false;
     }
-    Render(renderer, outline.recordCount, target);
+    Render(renderer, RenderScale(outline.recordCount, PathPoints(svg), target), target);
     return true;
 }
 

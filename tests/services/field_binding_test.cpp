@@ -5,6 +5,7 @@
 #include "services/path_box.h"
 #include "services/value_label.h"
 #include "support/temporary_folder.h"
+#include "support/typing.h"
 
 #include <gtest/gtest.h>
 
@@ -115,7 +116,7 @@ TEST_F(BoundFields, RefusesWhatTheCodePageCannotHoldAndSaysWhy) {
     EXPECT_FALSE(title.property("refused").toBool());
     EXPECT_EQ(title.toolTip(), QString());
 
-    QTest::keyClicks(&description, QStringLiteral("ж"));
+    test::TypeText(description, QStringLiteral("ж"));
     description.paste();
     EXPECT_EQ(description.toPlainText(), QString());
     EXPECT_TRUE(description.property("refused").toBool());

@@ -197,6 +197,20 @@ TEST_F(PictureLoaderTest, GivesUpAMetafileThatPaintsWithoutEnd) {
     EXPECT_LT(clock.elapsed(), 20'000);
 }
 
+TEST_F(PictureLoaderTest, DrawsAnEmfOfVeryManyWildPointsInBoundedTime) {
+    constexpr int Count = 30'000;
+    constexpr int Side = 3900;
+    std::string points;
+    for (int i = 0; i < Count; ++i) {
+        points += Words({i * 7919 % Side, i * 104'729 % Side});
+    }
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(FaultOf(Emf(Side, Side, 1, EmfRecord(86, Longs({0, 0, Side, Side, Count}) + points))),
+              PictureFault::None);
+    EXPECT_LT(clock.elapsed(), 30'000);
+}
+
 TEST_F(PictureLoaderTest, WmfDrawsTextBitmapsAndClips) {
     const std::string bitmap = Longs({40, 1, 1}) + Words({1, 24}) + Longs({0, 0, 0, 0, 0, 0}) +
                                std::string("\0\xFF\0\0", 4);

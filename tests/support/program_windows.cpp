@@ -1,6 +1,7 @@
 #include "support/program_windows.h"
 
 #include "settings/settings_windows.h"
+#include "support/typing.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -46,7 +47,7 @@ void ProgramWindows::Type(QWidget& window, const char* name, const QString& text
     control.setFocus();
     QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&control, Qt::Key_Delete);
-    QTest::keyClicks(&control, text);
+    TypeText(control, text);
     Settle();
 }
 
