@@ -23,7 +23,7 @@ constexpr double MostPaintedPixels = 15e9;
 
 /// An edge of a polygon may cross every line of pixels once, and each crossing is sorted among the
 /// others: some 5 s on a slow machine.
-constexpr double MostCrossedLines = 10e6;
+constexpr double MostCrossedLines = 4e6;
 
 /// @return "" for a file that the library refuses
 std::string SvgOf(std::string bytes, const PixelTarget& target) {

@@ -5,7 +5,7 @@
 #include "services/path_box.h"
 #include "services/value_label.h"
 #include "support/temporary_folder.h"
-#include "support/typing.h"
+#include "support/user_input.h"
 
 #include <gtest/gtest.h>
 
@@ -13,10 +13,8 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QMimeData>
 #include <QRadioButton>
 #include <QSlider>
-#include <QUrl>
 #include <QtTest/QTest>
 
 namespace tavmoor {
@@ -50,6 +48,8 @@ protected:
         textOnly.setObjectName(QStringLiteral("TextOnly"));
         binder = std::make_unique<FieldBinder>(window, document, Table, storing);
         window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     ProjectDocument document = NewProjectDocument();
@@ -138,11 +138,9 @@ TEST_F(BoundFields, NativePathsAreTakenOverInDocumentForm) {
     QTest::keyClick(&path, Qt::Key_Return);
     EXPECT_EQ(document.CdFolder(), "D:\\disc") << "a document path stays as it is";
 
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Native().string()))});
-    EXPECT_EQ(DroppedPath(data, PathKind::File), std::nullopt) << "a folder is no file";
-    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&path, &drop);
+    folder.Write("file", "x");
+    EXPECT_FALSE(test::DropPath(path, folder.Native("file"))) << "a file is no folder";
+    EXPECT_TRUE(test::DropPath(path, folder.Native()));
     EXPECT_EQ(document.CdFolder(), folder.Document());
 }
 #endif
