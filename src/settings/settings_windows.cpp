@@ -3,6 +3,8 @@
 #include "services/service_windows.h"
 #include "settings/main_menu.h"
 #include "settings/main_window.h"
+#include "settings/picture_preview_window.h"
+#include "settings/template_window.h"
 
 namespace tavmoor {
 
@@ -18,6 +20,8 @@ void Register(ProgramContext context, WindowName name) {
 void RegisterSettingsWindows(ProgramContext context) {
     RegisterServiceWindows(context);
     Register<Form1>(context, WindowName::Form1);
+    Register<Form2>(context, WindowName::Form2);
+    Register<Form7>(context, WindowName::Form7);
     Register<menu1>(context, WindowName::menu1);
 }
 
