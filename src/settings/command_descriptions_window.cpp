@@ -60,6 +60,7 @@ constexpr const char* UsualFont = "Ms Sans Serif";
 constexpr int WindowWidth = 900;
 constexpr int CommandWidth = 130;
 constexpr int TextHeight = 44; ///< two lines
+constexpr int TextMargin = 2;
 constexpr int RowGap = 5;
 constexpr int ExampleWidth = 300;
 
@@ -120,6 +121,7 @@ void Form4::AddRow(QGridLayout& grid, int row) {
     title->setAccessibleName(command + QStringLiteral(": Description title"));
     auto* text = new MemoBox(DescriptionBindings.at(2 * index + 1).control, Body());
     text->setAccessibleName(command + QStringLiteral(": Detail description"));
+    text->document()->setDocumentMargin(TextMargin);
     text->setFixedHeight(TextHeight);
     grid.addWidget(head, row + 1, 0);
     grid.addWidget(title, row + 1, 1);
@@ -175,8 +177,7 @@ QWidget* Form4::MakeExample() {
 QLayout* Form4::MakeCommands() {
     auto* row = new QHBoxLayout;
     auto* help = new PictureButton({"Command1", "help", u"&Help"}, Body());
-    auto* close =
-        new PictureButton({"Command43", "ok", u"&Close", u"", ButtonLook::Primary}, Body());
+    auto* close = new PictureButton({"Command43", "", u"&Close", u"", ButtonLook::Primary}, Body());
     connect(help, &QAbstractButton::clicked, this,
             [this] { OpenHelpOrTell(this, Session().programFolder); });
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);

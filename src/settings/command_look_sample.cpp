@@ -5,6 +5,7 @@
 #include "services/twips.h"
 
 #include <QLabel>
+#include <QPainter>
 
 namespace tavmoor {
 
@@ -28,6 +29,15 @@ void CommandLookSample::SetLook(const CommandButtonLook& look) {
             .arg(ToQColor(look.textColor).name(), ToQColor(look.backColor).name(),
                  theme::Border.name()));
     Place();
+}
+
+void CommandLookSample::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme::Border);
+    painter.setBrush(theme::Surface);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::Radius,
+                            theme::Radius);
 }
 
 void CommandLookSample::resizeEvent(QResizeEvent* /*event*/) {

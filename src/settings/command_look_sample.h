@@ -28,6 +28,7 @@ public:
     [[nodiscard]] const CommandButtonLook& Look() const { return look_; }
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -61,7 +61,7 @@ constexpr int BrowsePlace = 2;
 constexpr int ClearPlace = 6;
 
 constexpr std::array Columns{
-    CommandColumn{"Label75", u"Command title", &CommandRow::title, FieldForm::Text, "Opis", 0, 3,
+    CommandColumn{"Label75", u"Command title", &CommandRow::title, FieldForm::Text, "Opis", 0, 4,
                   110},
     CommandColumn{"Label64", u"Target filename", &CommandRow::target, FieldForm::Text, "Fajl", 1, 5,
                   150},
@@ -97,6 +97,7 @@ constexpr ColorValue FolderColor = 6382708;
 constexpr int MenuTitlesNoteLeft = 4830; // twips
 constexpr std::string_view MenuTitlesTemplate = "Nexus";
 constexpr int RowGap = 4;
+constexpr int ColumnGap = 6;
 
 QComboBox* MakeTypeBox(QWidget* parent) {
     auto* box = new QComboBox(parent);
@@ -153,7 +154,7 @@ Frame4::Frame4(ProgramContext context, QWidget* parent)
     folder_->setMinimumHeight(0);
     layout->addWidget(folder_);
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(theme::Gap);
+    grid->setHorizontalSpacing(ColumnGap);
     grid->setVerticalSpacing(RowGap);
     AddHeads(*grid);
     for (std::size_t row = 0; row < CommandRows.size(); ++row) {

@@ -17,10 +17,13 @@ FocusedScrollBar::FocusedScrollBar(const char* objectName, int least, int most, 
 
 void FocusedScrollBar::paintEvent(QPaintEvent* event) {
     QScrollBar::paintEvent(event);
+    QPainter painter(this);
     if (hasFocus()) {
-        QPainter painter(this);
         painter.setPen(QPen(theme::Accent, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    } else {
+        painter.setPen(theme::Border);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
