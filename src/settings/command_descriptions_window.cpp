@@ -177,7 +177,8 @@ QWidget* Form4::MakeExample() {
 QLayout* Form4::MakeCommands() {
     auto* row = new QHBoxLayout;
     auto* help = new PictureButton({"Command1", "help", u"&Help"}, Body());
-    auto* close = new PictureButton({"Command43", "", u"&Close", u"", ButtonLook::Primary}, Body());
+    auto* close =
+        new PictureButton({"Command43", "close", u"&Close", u"", ButtonLook::Primary}, Body());
     connect(help, &QAbstractButton::clicked, this,
             [this] { OpenHelpOrTell(this, Session().programFolder); });
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
