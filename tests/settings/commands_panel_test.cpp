@@ -79,18 +79,6 @@ TEST_F(CommandsPanel, ChosenFilesOfTheDiscAreStoredRelativeToIt) {
     EXPECT_EQ(browse(inside), "run\\a.exe");
 }
 
-TEST_F(CommandsPanel, BrowsingNeedsAFolder) {
-    auto& panel = Panel();
-    Document().OsnovnaPodesavanja.GlavniDirektorijum.clear();
-    const test::ScriptedDialogs dialogs;
-    const test::ScriptedBoxes boxes({BoxAnswer::Yes});
-    Click(panel, "Command31");
-    EXPECT_EQ(boxes.shown.at(0).text,
-              QStringLiteral("CD-ROM files folder must be selected! Do you want to do it now?"));
-    EXPECT_TRUE(dialogs.opened.empty());
-    EXPECT_TRUE(Find(Main(), "Frame2").isVisible());
-}
-
 TEST_F(CommandsPanel, ShowsTheFolderAndTheMenuTitlesOfTheTemplate) {
     Document().Working.TemplateName = "Nexus";
     auto& panel = Panel();
