@@ -31,7 +31,8 @@ void ValueLabel::resizeEvent(QResizeEvent* event) {
 }
 
 void ValueLabel::ShowCut() {
-    setText(fontMetrics().elidedText(full_, Qt::ElideMiddle, contentsRect().width()));
+    constexpr int Frame = 6; // border and padding of the theme's values, at each side
+    setText(fontMetrics().elidedText(full_, Qt::ElideMiddle, contentsRect().width() - 2 * Frame));
 }
 
 } // namespace tavmoor

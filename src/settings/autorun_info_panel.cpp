@@ -169,7 +169,9 @@ void Frame3::AddCaption(const char16_t* text, QWidget& buddy) {
     label->setWordWrap(true);
     label->setFixedWidth(CaptionWidth);
     label->setBuddy(&buddy);
-    grid_->addWidget(label, line_, Column::Caption);
+    // Beside a box of several lines, the caption stands at its first one.
+    grid_->addWidget(label, line_, Column::Caption,
+                     qobject_cast<MemoBox*>(&buddy) != nullptr ? Qt::AlignTop : Qt::AlignVCenter);
 }
 
 void Frame3::AddTaskBarTitle() {

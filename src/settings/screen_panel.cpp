@@ -14,8 +14,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
@@ -64,9 +64,14 @@ ScreenPanel::ScreenPanel(const ScreenPanelDescription& description, ProgramConte
     lines->addLayout(MakeTime());
     auto* groups = MakeRow();
     groups->addWidget(MakeTextGroup(), 1);
-    groups->addWidget(MakePictureGroup(), 1);
+    auto* right = MakeLines(nullptr);
+    right->addWidget(MakePictureGroup());
+    right->addStretch(1);
+    right->addLayout(MakeColor());
+    right->addStretch(1);
+    groups->addLayout(right, 1);
     lines->addLayout(groups, 1);
-    lines->addWidget(MakeWindowGroup());
+    lines->addWidget(MakeDimensions());
     FieldBinder& binder = Bind(table_);
     // The labels show what their bars spin.
     connect(&binder, &FieldBinder::Stored, this, [this](const QString& control) {
@@ -185,7 +190,6 @@ QWidget* ScreenPanel::MakePictureGroup() {
     lines->addWidget(picture);
     lines->addLayout(MakePosition(description_.picturePosition, "Polozajslike"));
     lines->addWidget(MakeShowChoice());
-    lines->addStretch(1);
     return group;
 }
 
@@ -217,18 +221,16 @@ QLayout* ScreenPanel::MakeColor() {
     return row;
 }
 
-QWidget* ScreenPanel::MakeWindowGroup() {
+QWidget* ScreenPanel::MakeDimensions() {
     auto* group = new QGroupBox(Body());
-    auto* lines = MakeLines(group);
-    lines->addLayout(MakeColor());
     auto* heading = new QLabel(QString::fromUtf16(description_.dimensions.text), group);
     heading->setObjectName(QString::fromLatin1(description_.dimensions.control));
-    lines->addWidget(heading);
+    heading->setWordWrap(true);
     auto* row = MakeRow();
+    row->addWidget(heading, 1);
     AddDimension(*row, description_.height);
     AddDimension(*row, description_.width);
-    row->addStretch(1);
-    lines->addLayout(row);
+    group->setLayout(row);
     return group;
 }
 
@@ -238,10 +240,10 @@ void ScreenPanel::AddDimension(QHBoxLayout& row, const ScreenDimension& dimensio
     shown->setFixedWidth(FontSizeWidth);
     Tie(dimension.bar.control, FieldForm::Number, dimension.key);
     Tie(dimension.label, FieldForm::Shown, dimension.key);
+    row.addSpacing(theme::Margin);
     row.addWidget(MakeCaption(dimension.bar.text, *bar));
     row.addWidget(shown);
     row.addWidget(bar);
-    row.addSpacing(theme::Margin);
 }
 
 void ScreenPanel::ChooseFont() {

@@ -4,7 +4,6 @@
 
 #include <vector>
 
-class QGridLayout;
 class QHBoxLayout;
 class QLabel;
 class QLayout;
@@ -35,7 +34,7 @@ private:
     QLayout* MakeTextRow(MemoBox& text);
     QLayout* MakeStyleRow();
     QWidget* MakePictureGroup();
-    QWidget* MakeWindowGroup();
+    QWidget* MakeDimensions();
     QWidget* MakeShowChoice();
     QLayout* MakeColor();
     void AddDimension(QHBoxLayout& row, const ScreenDimension& dimension);
