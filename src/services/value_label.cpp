@@ -10,6 +10,7 @@ ValueLabel::ValueLabel(const char* objectName, QWidget* parent) : QLabel(parent)
     setObjectName(QString::fromLatin1(objectName));
     setProperty("look", QStringLiteral("value"));
     setTextFormat(Qt::PlainText);
+    setIndent(0); // a framed label's own indent would take from the width that ShowCut counts with
     setMinimumHeight(theme::ControlHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -31,8 +32,7 @@ void ValueLabel::resizeEvent(QResizeEvent* event) {
 }
 
 void ValueLabel::ShowCut() {
-    constexpr int Frame = 6; // border and padding of the theme's values, at each side
-    setText(fontMetrics().elidedText(full_, Qt::ElideMiddle, contentsRect().width() - 2 * Frame));
+    setText(fontMetrics().elidedText(full_, Qt::ElideMiddle, contentsRect().width()));
 }
 
 } // namespace tavmoor

@@ -132,7 +132,7 @@ enum Column : std::uint8_t { Caption, Box, Color, FontButton, FontName, FontSize
 
 // Logical pixels.
 constexpr int CaptionWidth = 170;
-constexpr int FontNameWidth = 150;
+constexpr int FontNameWidth = 160;
 constexpr int FontSizeWidth = 56;
 constexpr int LineGap = 6;
 
@@ -144,8 +144,6 @@ Frame3::Frame3(ProgramContext context, QWidget* parent)
     grid_->setHorizontalSpacing(theme::Gap);
     grid_->setVerticalSpacing(LineGap);
     grid_->setColumnMinimumWidth(Column::Caption, CaptionWidth);
-    grid_->setColumnMinimumWidth(Column::FontName, FontNameWidth);
-    grid_->setColumnMinimumWidth(Column::FontSize, FontSizeWidth);
     grid_->setColumnStretch(Column::Box, 1);
     AddTaskBarTitle();
     AddColumnHeads();
@@ -241,6 +239,7 @@ void Frame3::AddFont(const MainTextRow& row) {
 void Frame3::AddValue(const char* label, std::string_view key, QString accessibleName, int column) {
     auto* value = new ValueLabel(label, Body());
     value->setAccessibleName(accessibleName);
+    value->setFixedWidth(column == Column::FontName ? FontNameWidth : FontSizeWidth);
     grid_->addWidget(value, line_, column, Qt::AlignTop);
     table_.push_back({label, FieldForm::Shown, MainSection, key});
 }

@@ -33,6 +33,7 @@ constexpr std::array Positions{u"Top left",           u"Top right",    u"Top cen
 constexpr int PageStep = 10; // pixels
 constexpr int TimeWidth = 48;
 constexpr int FontSizeWidth = 56;
+constexpr int DimensionsWidth = 300;
 constexpr int LineGap = 6;
 
 QHBoxLayout* MakeRow() {
@@ -226,10 +227,12 @@ QWidget* ScreenPanel::MakeDimensions() {
     auto* heading = new QLabel(QString::fromUtf16(description_.dimensions.text), group);
     heading->setObjectName(QString::fromLatin1(description_.dimensions.control));
     heading->setWordWrap(true);
+    heading->setFixedWidth(DimensionsWidth);
     auto* row = MakeRow();
-    row->addWidget(heading, 1);
+    row->addWidget(heading);
     AddDimension(*row, description_.height);
     AddDimension(*row, description_.width);
+    row->addStretch(1);
     group->setLayout(row);
     return group;
 }

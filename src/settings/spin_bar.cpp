@@ -2,7 +2,6 @@
 
 #include "services/theme.h"
 
-#include <QFocusEvent>
 #include <QPainter>
 
 namespace tavmoor {
@@ -49,22 +48,15 @@ void SpinBar::wheelEvent(QWheelEvent* event) {
     setInvertedControls(true);
 }
 
-void SpinBar::focusInEvent(QFocusEvent* event) {
-    QScrollBar::focusInEvent(event);
-    update();
-}
-
-void SpinBar::focusOutEvent(QFocusEvent* event) {
-    QScrollBar::focusOutEvent(event);
-    update();
-}
-
 void SpinBar::paintEvent(QPaintEvent* event) {
     QScrollBar::paintEvent(event);
+    QPainter painter(this);
     if (hasFocus()) {
-        QPainter painter(this);
         painter.setPen(QPen(theme::Accent, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    } else {
+        painter.setPen(theme::Border);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
