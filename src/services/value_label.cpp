@@ -10,7 +10,7 @@ ValueLabel::ValueLabel(const char* objectName, QWidget* parent) : QLabel(parent)
     setObjectName(QString::fromLatin1(objectName));
     setProperty("look", QStringLiteral("value"));
     setTextFormat(Qt::PlainText);
-    setIndent(0); // a framed label's own indent would take from the width that ShowCut counts with
+    setIndent(0); // the frame's padding is enough, and all of the width counts for the cut
     setMinimumHeight(theme::ControlHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
