@@ -2,6 +2,7 @@
 
 #include "core/build_folder.h"
 #include "core/program_folder.h"
+#include "core/run_marker.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"
 #include "settings/settings_windows.h"
@@ -19,7 +20,7 @@ constexpr bool AutorunStatusMatters = false;
 
 } // namespace
 
-void StartProgram(ProgramContext context) {
+void StartProgram(ProgramContext context, const RunMarker& marker) {
     ProgramSession& session = context.session;
     EnsureBuildFolder();
     session.programFolder = ProgramFolder();
@@ -28,6 +29,9 @@ void StartProgram(ProgramContext context) {
     session.settings.buildFolder = BuildFolder();
     session.document.Working.Recent = session.settings.recentProject;
     session.autorunCheckDue = AutorunStatusMatters && session.settings.autoplayCheck;
+    if (const auto since = marker.CrashedSince()) {
+        session.recoveredProject = NewestRecoveryCopy(*since).value_or("");
+    }
     RegisterSettingsWindows(context);
     const bool splash = session.settings.programSplash && context.windows.Stands(WindowName::Form5);
     context.windows.Open(splash ? WindowName::Form5 : WindowName::Form1);

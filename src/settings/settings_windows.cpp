@@ -1,6 +1,7 @@
 #include "settings/settings_windows.h"
 
 #include "services/service_windows.h"
+#include "settings/build_window.h"
 #include "settings/main_menu.h"
 #include "settings/main_window.h"
 
@@ -18,6 +19,7 @@ void Register(ProgramContext context, WindowName name) {
 void RegisterSettingsWindows(ProgramContext context) {
     RegisterServiceWindows(context);
     Register<Form1>(context, WindowName::Form1);
+    Register<Form8>(context, WindowName::Form8);
     Register<menu1>(context, WindowName::menu1);
 }
 
