@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QTextOption>
+#include <QtMath>
 
 namespace tavmoor {
 
@@ -24,7 +25,8 @@ void StatusLabel::SetText(const QString& text) {
 QSize StatusLabel::sizeHint() const {
     constexpr int UsualWidth = 400;
     const QMargins margins = contentsMargins();
-    return {UsualWidth, lines_ * fontMetrics().lineSpacing() + margins.top() + margins.bottom()};
+    const int text = qCeil(lines_ * QFontMetricsF(font()).lineSpacing()) + lines_;
+    return {UsualWidth, text + margins.top() + margins.bottom()};
 }
 
 void StatusLabel::paintEvent(QPaintEvent* event) {

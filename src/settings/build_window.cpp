@@ -12,8 +12,11 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QProgressBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace tavmoor {
 
@@ -24,7 +27,6 @@ constexpr WindowLook Form8Look{
     .objectName = "Form8",
     .title = u"The final step. You are about to build and save your autorun program..."};
 
-constexpr int WindowWidth = 680; // logical pixels
 constexpr int StatusLines = 4;
 constexpr int NoteLines = 2;
 
@@ -32,6 +34,15 @@ QLabel* BuddyLabel(const char16_t* text, QWidget* buddy, QWidget* parent) {
     auto* label = new QLabel(QString::fromUtf16(text), parent);
     label->setBuddy(buddy);
     return label;
+}
+
+/// Logical pixels: the title is seen whole, beside the chrome.
+int WindowWidth() {
+    constexpr int Least = 700;
+    constexpr int BesideTitle = 150;
+    const QFontMetrics metrics(theme::HeadingFont());
+    return std::max(Least,
+                    metrics.horizontalAdvance(QString::fromUtf16(Form8Look.title)) + BesideTitle);
 }
 
 } // namespace
@@ -52,6 +63,7 @@ private:
     void Set(bool building) {
         form_.building_ = building;
         form_.note_->SetText({});
+        form_.name_->setFocus(); // else it goes from the disabled command to the next button
         form_.name_->setReadOnly(building);
         form_.start_->setEnabled(!building);
     }
@@ -66,23 +78,9 @@ Form8::Form8(ProgramContext context) : SkinnedWindow(context, Form8Look) {
     start_ = new QCheckBox(QStringLiteral("&Start autorun after 'Build and save'"), Body());
     start_->setObjectName(QStringLiteral("Check1"));
     layout->addWidget(start_);
-    progress_ = new QProgressBar(Body());
-    progress_->setObjectName(QStringLiteral("Progress"));
-    progress_->setAccessibleName(QStringLiteral("How much of the package is written"));
-    QSizePolicy kept = progress_->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    progress_->setSizePolicy(kept);
-    progress_->hide();
-    layout->addWidget(progress_);
-    status_ = new StatusLabel("Label1", StatusLines, Body());
-    layout->addWidget(status_);
-    note_ = new StatusLabel("Note", NoteLines, Body());
-    QPalette red = note_->palette();
-    red.setColor(QPalette::WindowText, theme::Refused);
-    note_->setPalette(red);
-    layout->addWidget(note_);
+    layout->addWidget(MakeProgress());
     layout->addLayout(MakeButtons());
-    setFixedWidth(WindowWidth);
+    setFixedWidth(WindowWidth());
     layout->setSizeConstraint(QLayout::SetMinimumSize);
 }
 
@@ -99,6 +97,24 @@ QLayout* Form8::MakeFields() {
     fields->addWidget(new QLabel(QStringLiteral(".exe"), Body()), 1, 2);
     fields->setColumnStretch(1, 1);
     return fields;
+}
+
+QWidget* Form8::MakeProgress() {
+    auto* group = new QGroupBox(QStringLiteral("Progress"), Body());
+    progress_ = new QProgressBar(group);
+    progress_->setObjectName(QStringLiteral("Progress"));
+    progress_->setAccessibleName(QStringLiteral("How much of the package is written"));
+    status_ = new StatusLabel("Label1", StatusLines, group);
+    note_ = new StatusLabel("Note", NoteLines, group);
+    QPalette red = note_->palette();
+    red.setColor(QPalette::WindowText, theme::Refused);
+    note_->setPalette(red);
+    auto* layout = new QVBoxLayout(group);
+    layout->setSpacing(theme::Gap);
+    layout->addWidget(progress_);
+    layout->addWidget(status_);
+    layout->addWidget(note_);
+    return group;
 }
 
 QLayout* Form8::MakeButtons() {
@@ -121,12 +137,13 @@ QLayout* Form8::MakeButtons() {
 
 void Form8::OnLoad() {
     const std::string& folder = Document().CdFolder();
+    theme::MarkRefused(*folder_, folder.empty());
     folder_->SetFullText(
         folder.empty()
             ? QStringLiteral("CD-ROM FILES FOLDER NOT SELECTED! GO BACK TO MAIN AUTORUN SETTINGS.")
             : ToQString(folder));
-    theme::MarkRefused(*folder_, folder.empty());
     build_->setEnabled(!folder.empty());
+    WindowBuildEvents(Controls()).ResetProgress();
     start_->setChecked(Session().settings.testAfterBuild);
     name_->setText(ToQString(InitialAutorunName(Document())));
     name_->setFocus();
@@ -160,8 +177,8 @@ void Form8::Build() {
     request.name = FromQString(name_->text());
     request.buildFolder = BuildFolder();
     request.startAfterBuild = start_->isChecked();
-    progress_->hide();
     WindowBuildEvents events(Controls());
+    events.ResetProgress();
     BuildOutcome outcome = BuildOutcome::Built;
     {
         const BuildTime time(*this);

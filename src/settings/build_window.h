@@ -32,6 +32,7 @@ private:
     class BuildTime;
 
     QLayout* MakeFields();
+    QWidget* MakeProgress();
     QLayout* MakeButtons();
     [[nodiscard]] BuildControls Controls() const;
     void ShowFaults(const BuiltPackage& package);

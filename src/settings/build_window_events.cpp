@@ -65,12 +65,16 @@ void WindowBuildEvents::EnableBuild(bool enabled) {
     controls_.build->setEnabled(enabled);
 }
 
+void WindowBuildEvents::ResetProgress() {
+    controls_.progress->setRange(0, ProgressSteps);
+    controls_.progress->setValue(0);
+    controls_.progress->setFormat(QString());
+}
+
 void WindowBuildEvents::PackageProgress(std::uint64_t done, std::uint64_t total) {
     QProgressBar& bar = *controls_.progress;
-    bar.setRange(0, ProgressSteps);
     bar.setValue(total == 0 ? ProgressSteps : static_cast<int>(done * ProgressSteps / total));
     bar.setFormat(ProgressText(done, total));
-    bar.show();
 }
 
 void WindowBuildEvents::LetEventsRun() {

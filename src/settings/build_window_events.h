@@ -27,6 +27,9 @@ class WindowBuildEvents final : public BuildEvents {
 public:
     explicit WindowBuildEvents(const BuildControls& controls) : controls_(controls) {}
 
+    /// An empty bar; before a build.
+    void ResetProgress();
+
     void Status(std::string_view text) override;
     void ShowMessage(std::string_view text, std::string_view title, BuildMessageKind kind) override;
     void ColourName(ColorValue colour) override;
