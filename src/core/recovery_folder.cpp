@@ -77,15 +77,12 @@ std::string ProjectName(const ProjectDocument& document) {
 
 std::string DateAndTime(std::chrono::system_clock::time_point time) {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
-    std::tm parts{};
-#ifdef _WIN32
-    localtime_s(&parts, &seconds);
-#else
-    localtime_r(&seconds, &parts);
-#endif
+    const std::tm* parts = std::localtime(&seconds); // one thread alone works on projects
+    if (parts == nullptr) {
+        return std::to_string(seconds) + " ";
+    }
     std::array<char, 32> text{};
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), "%Y-%m-%d %H-%M-%S ", &parts);
+    const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%d %H-%M-%S ", parts);
     return {text.data(), length};
 }
 

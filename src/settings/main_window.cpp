@@ -46,7 +46,7 @@ constexpr std::chrono::milliseconds MenuInterval{400};
 
 Form1::Form1(ProgramContext context)
     : SkinnedWindow(context, Form1Look), checks_(context, *this), commands_(context, *this),
-      keeper_(context.session) {
+      keeper_(context.session, this) {
     setFixedSize(WindowSize);
     column_ = new NavigationColumn(this);
     column_->move(ColumnPlace);

@@ -6,7 +6,7 @@
 
 namespace tavmoor {
 
-RecoveryKeeper::RecoveryKeeper(ProgramSession& session) {
+RecoveryKeeper::RecoveryKeeper(ProgramSession& session, QObject* owner) : timer_(owner) {
     timer_.setObjectName(QStringLiteral("RecoveryTimer"));
     QObject::connect(&timer_, &QTimer::timeout, &timer_,
                      [&session] { session.recovery.KeepIgnoringErrors(session.document); });

@@ -10,7 +10,7 @@ struct ProgramSession;
 /// minute and silently: what a crash can cost is the work of a minute.
 class RecoveryKeeper {
 public:
-    explicit RecoveryKeeper(ProgramSession& session);
+    RecoveryKeeper(ProgramSession& session, QObject* owner);
 
     void Start();
     void Stop() { timer_.stop(); }

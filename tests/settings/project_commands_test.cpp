@@ -5,7 +5,7 @@
 #include "services/native_path_text.h"
 #include "settings/main_window.h"
 
-#include <QLineEdit>
+#include <QTimer>
 
 namespace tavmoor {
 
@@ -194,8 +194,15 @@ TEST_F(ProjectCommandsTest, ACopyIsOfferedOpenedAsUnsavedAndGoneOnceSaved) {
     EXPECT_EQ(Recovered(), "");
 }
 
-TEST_F(ProjectCommandsTest, ClosingTheProgramKeepsWhatWasNotSaved) {
+TEST_F(ProjectCommandsTest, WhatIsNotSavedIsKeptEachMinuteAndAtTheEnd) {
     auto& hub = Hub();
+    auto* timer = hub.findChild<QTimer*>(QStringLiteral("RecoveryTimer"));
+    ASSERT_NE(timer, nullptr);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(timer->intervalAsDuration(), std::chrono::minutes(1));
+    Title() = "in work";
+    QMetaObject::invokeMethod(timer, "timeout");
+    EXPECT_EQ(Recovered(), "in work;");
     Title() = "lost";
     hub.Unload();
     EXPECT_EQ(Recovered(), "lost;");
