@@ -1,14 +1,14 @@
 #include "settings/settings_windows.h"
 
 #include "services/service_windows.h"
-#include "settings/command_descriptions_window.h"
 #include "settings/build_window.h"
+#include "settings/command_descriptions_window.h"
 #include "settings/main_menu.h"
 #include "settings/main_window.h"
 #include "settings/picture_preview_window.h"
-#include "settings/template_window.h"
 #include "settings/program_settings_window.h"
 #include "settings/program_splash_window.h"
+#include "settings/template_window.h"
 
 namespace tavmoor {
 
