@@ -77,8 +77,9 @@ QTextBlockFormat BlockFormat(const RichTextParagraphFormat& format) {
     result.setBottomMargin(PixelsOf(format.after));
     QList<QTextOption::Tab> tabs;
     for (const int tab : format.tabs) {
-        // The view measures tabs from the left margin of the paragraph.
-        tabs.append(QTextOption::Tab(PixelsOf(tab - format.left), QTextOption::LeftTab));
+        // The view measures tabs from the beginning of the line, its indent included.
+        tabs.append(
+            QTextOption::Tab(PixelsOf(tab - format.left - format.firstLine), QTextOption::LeftTab));
     }
     result.setTabPositions(tabs);
     return result;

@@ -76,7 +76,7 @@ TEST(RichTextReader, FillsADocument) {
     EXPECT_EQ(format.fontPointSize(), 17);
     EXPECT_EQ(format.foreground().color(), QColor(28, 93, 127));
     EXPECT_EQ(format.fontFamilies().toStringList(), QStringList{QStringLiteral("Georgia")});
-    EXPECT_EQ(heading.next().blockFormat().tabPositions().front().position, 16);
+    EXPECT_EQ(heading.next().blockFormat().tabPositions().front().position, 29);
     EXPECT_TRUE(document.lastBlock().begin().fragment().charFormat().fontUnderline());
 
     EXPECT_FALSE(ReadRichTextFile(folder.Document("missing.rtf"), document));
