@@ -20,6 +20,8 @@ struct ProgramSession {
 
     /// The result of a colour choice: "" while it is open, CancelledResult, or a decimal colour.
     std::string MenuResult;
+    /// How many colour choices were begun; one that sees another number was given up for a new one.
+    int colorPicks = 0;
     /// What the main window's menu was asked for, 0 for nothing; see MenuAction.
     std::int16_t menuAction = 0;
     /// The canvas was opened since the program started.
