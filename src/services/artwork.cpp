@@ -17,7 +17,7 @@ namespace tavmoor {
 
 namespace {
 
-/// The line colours of the drawings, replaced where another is wanted.
+/// The two colours of the line drawings, replaced where another one is wanted.
 constexpr std::array LineColours{"#22324A", "#2F6DB5"};
 
 QByteArray DrawingBytes(const QString& name, const QColor& colour) {
@@ -28,8 +28,8 @@ QByteArray DrawingBytes(const QString& name, const QColor& colour) {
     }
     QByteArray bytes = file.readAll();
     if (colour.isValid()) {
-        for (const char* lines : LineColours) {
-            bytes.replace(lines, colour.name().toLatin1());
+        for (const char* lineColour : LineColours) {
+            bytes.replace(lineColour, colour.name().toLatin1());
         }
     }
     return bytes;
