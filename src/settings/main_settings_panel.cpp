@@ -112,7 +112,7 @@ QWidget* Frame2::MakeTemplateGroup() {
     auto* group = MakeGroup(u"Template", Body(), row);
     templateName_ = MakeValue("Label89", u"Template", group);
     auto* select = new PictureButton(
-        {"Command11", "template", u"&Select...",
+        {"Command11", "template", u"Se&lect...",
          u"Select a template or the visual editor as the project's working environment"},
         group);
     row->addWidget(templateName_, TemplateNameShare);

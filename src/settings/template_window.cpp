@@ -65,6 +65,7 @@ QWidget* Form7::MakeChoice() {
     names_ = new QListWidget(group);
     names_->setObjectName(QStringLiteral("List1"));
     names_->setAccessibleName(simple_->text());
+    names_->setSpacing(2);
     paths_ = new QListWidget(group);
     paths_->setObjectName(QStringLiteral("List3"));
     paths_->hide();
@@ -159,6 +160,7 @@ void Form7::ShowPreviewOf(const std::string& descriptorPath) {
     const TemplatePreview preview = ShowTemplatePreview(descriptorPath);
     // What is missing or cannot be read stays empty.
     ReadRichTextFile(preview.descriptionPath, *description_->document());
+    description_->moveCursor(QTextCursor::Start);
     picture_->SetPicture(LoadPicture(preview.picturePath).image);
 }
 

@@ -1,35 +1,12 @@
 #include "settings/picture_preview_window.h"
 
-#include "services/service_slot.h"
-#include "services/shell.h"
 #include "support/program_windows.h"
+#include "support/recording_shell.h"
 
 #include <QCheckBox>
 #include <QImage>
 
 namespace tavmoor {
-
-namespace {
-
-class OpenedPages final : public Shell {
-public:
-    ShellOutcome OpenDocument(std::string_view path) override {
-        paths.emplace_back(path);
-        return {};
-    }
-    ShellOutcome OpenAddress(std::string_view /*address*/) override { return {}; }
-    ShellOutcome StartProgram(std::string_view, const std::vector<std::string>&) override {
-        return {};
-    }
-    ShellOutcome OpenHelpFile(std::string_view /*path*/) override { return {}; }
-
-    std::vector<std::string> paths;
-
-private:
-    ScopedService<Shell> slot_{*this};
-};
-
-} // namespace
 
 class PicturePreview : public test::ProgramWindows {
 protected:
@@ -90,7 +67,7 @@ TEST_F(PicturePreview, ClosingStoresWhetherThereAreFurtherOnes) {
 }
 
 TEST_F(PicturePreview, APictureThatDoesNotLoadClosesItAndTellsAWayAround) {
-    OpenedPages pages;
+    test::RecordingShell shell;
     Preview("");
     EXPECT_EQ(Shown(WindowName::Form2), nullptr);
     Preview(WritePicture("a.png", {10, 10}));
@@ -99,7 +76,8 @@ TEST_F(PicturePreview, APictureThatDoesNotLoadClosesItAndTellsAWayAround) {
     Preview(folder.Write("text.jpg", "no picture"));
     EXPECT_EQ(boxes.shown.at(0).title, QStringLiteral("Warning"));
     EXPECT_EQ(Shown(WindowName::Form2), nullptr);
-    EXPECT_EQ(pages.paths, std::vector{session.programFolder + "\\jpeg_compability.htm"});
+    EXPECT_EQ(shell.calls,
+              std::vector{"document " + session.programFolder + "\\jpeg_compability.htm"});
 }
 
 } // namespace tavmoor
