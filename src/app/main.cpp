@@ -1,6 +1,7 @@
 #include "program_application.h"
 #include "start_program.h"
 
+#include "core/run_marker.h"
 #include "core/runtime_error.h"
 #include "services/message_box.h"
 #include "services/qt_text.h"
@@ -12,8 +13,9 @@ int main(int argc, char** argv) {
     tavmoor::ProgramSession session;
     tavmoor::WindowRegistry windows;
     application.SetSession(&session);
+    const tavmoor::RunMarker marker;
     try {
-        tavmoor::StartProgram({session, windows});
+        tavmoor::StartProgram({session, windows}, marker);
     } catch (const tavmoor::RuntimeError& error) {
         tavmoor::ShowMessageBox(nullptr, {tavmoor::ToQString(error.what()), {}});
         return EXIT_FAILURE;

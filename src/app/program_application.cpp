@@ -1,6 +1,5 @@
 #include "program_application.h"
 
-#include "core/recovery_file.h"
 #include "core/runtime_error.h"
 #include "services/artwork.h"
 #include "services/maker.h"
@@ -32,8 +31,11 @@ void ProgramApplication::ReportAndEnd(const char* report) {
     QString text = ToQString(report);
     if (session_ != nullptr) {
         try {
-            const std::string kept = WriteRecoveryFile(session_->document);
-            text += QStringLiteral("\n\nYour project was kept in ") + ToQString(kept);
+            const std::string kept = session_->recovery.KeepAndLeave(session_->document);
+            if (!kept.empty()) {
+                text += QStringLiteral("\n\nYour project was kept in ") + ToQString(kept) +
+                        QStringLiteral("\nThe next start offers it.");
+            }
         } catch (const std::exception& error) {
             text +=
                 QStringLiteral("\n\nYour project could not be kept: ") + ToQString(error.what());

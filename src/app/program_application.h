@@ -7,20 +7,20 @@
 namespace tavmoor {
 
 /// The application with the one boundary of run-time errors: what no step handles ends the program
-/// here, after the open project was kept in a recovery file and the error was shown.
+/// here, after the open project was kept in the recovery folder and the error was shown.
 class ProgramApplication final : public QApplication {
 public:
     ProgramApplication(int& argc, char** argv);
 
     /// The session whose project is kept; before it is set, an error is only shown.
-    void SetSession(const ProgramSession* session) { session_ = session; }
+    void SetSession(ProgramSession* session) { session_ = session; }
 
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
     [[noreturn]] void ReportAndEnd(const char* report);
 
-    const ProgramSession* session_ = nullptr;
+    ProgramSession* session_ = nullptr;
 };
 
 } // namespace tavmoor

@@ -2,7 +2,7 @@
 
 #include "build/package_reader.h"
 #include "console.h"
-#include "core/recovery_file.h"
+#include "core/recovery_folder.h"
 #include "core/runtime_error.h"
 
 #include <CLI/CLI.hpp>

@@ -23,7 +23,11 @@ std::string ProgramSettingsPath(const std::string& programFolder) {
 }
 
 std::string UserDataFolder() {
-    return DocumentPath(PlatformDataFolder() / OwnFolder);
+    return DocumentPath(ProgramDataFolder());
+}
+
+std::filesystem::path ProgramDataFolder() {
+    return PlatformDataFolder() / OwnFolder;
 }
 
 } // namespace tavmoor

@@ -15,6 +15,8 @@ std::string ProgramSettingsPath(const std::string& programFolder);
 
 /// The user's folder for this program's data (recovered projects), in document form.
 std::string UserDataFolder();
+/// The same in native form.
+std::filesystem::path ProgramDataFolder();
 
 // One file per platform answers these, in native form.
 

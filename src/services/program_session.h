@@ -3,6 +3,7 @@
 #include "core/program_settings.h"
 #include "core/project_document.h"
 #include "core/project_reset.h"
+#include "core/recovery_folder.h"
 
 #include <cstdint>
 #include <string>
@@ -17,6 +18,9 @@ struct ProgramSession {
     std::string settingsPath;  ///< of `tavmoor.ini`
     ProgramSettings settings;
     ProjectDocument document = NewProjectDocument();
+    RecoveryCopy recovery{document};
+    /// The copy of a project that a crash left, for the main window to offer; "" for none.
+    std::string recoveredProject;
 
     /// The result of a colour choice: "" while it is open, CancelledResult, or a decimal colour.
     std::string MenuResult;

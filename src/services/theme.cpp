@@ -78,6 +78,10 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QListWidget:dis
 QLabel[look="value"] { background: @Surface; border: 1px solid @Border; border-radius: 4px;
     padding: 2px 5px; }
 QLabel[look="note"] { color: @QuietText; }
+QLabel[refused="true"] { border: 2px solid @Refused; padding: 1px 4px; color: @Refused; }
+QProgressBar { background: @Surface; border: 1px solid @Border; border-radius: 4px;
+    min-height: 20px; text-align: center; }
+QProgressBar::chunk { background: @AccentPale; border-right: 2px solid @Accent; }
 QGroupBox { border: 1px solid @Border; border-radius: 5px; margin-top: 9px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0px 4px; color: @QuietText; }
 QComboBox::drop-down { border: none; width: 20px; }

@@ -45,7 +45,8 @@ constexpr std::chrono::milliseconds MenuInterval{400};
 } // namespace
 
 Form1::Form1(ProgramContext context)
-    : SkinnedWindow(context, Form1Look), checks_(context, *this), commands_(context, *this) {
+    : SkinnedWindow(context, Form1Look), checks_(context, *this), commands_(context, *this),
+      keeper_(context.session, this) {
     setFixedSize(WindowSize);
     column_ = new NavigationColumn(this);
     column_->move(ColumnPlace);
@@ -108,6 +109,9 @@ void Form1::OnLoad() {
     ShowDocument();
     hint_->Restore();
     timer_.start(MenuInterval);
+    keeper_.Start();
+    // Once the window is seen.
+    QTimer::singleShot(0, this, [this] { commands_.OfferRecovered(); });
 }
 
 void Form1::DisableUnbuiltSteps() {
@@ -125,6 +129,7 @@ void Form1::OnActivate() {
 
 void Form1::OnUnload() {
     timer_.stop();
+    keeper_.Stop();
     EndWaitLoops();
     commands_.KeepUnsaved();
     SaveSettings();

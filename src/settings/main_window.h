@@ -6,6 +6,7 @@
 #include "settings/navigation_column.h"
 #include "settings/panel.h"
 #include "settings/project_commands.h"
+#include "settings/recovery_keeper.h"
 #include "settings/step_checks.h"
 
 #include <QTimer>
@@ -65,6 +66,7 @@ private:
 
     StepChecks checks_;
     ProjectCommands commands_;
+    RecoveryKeeper keeper_;
     NavigationColumn* column_ = nullptr;
     HintLine* hint_ = nullptr;
     QLabel* title_ = nullptr;

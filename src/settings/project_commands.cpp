@@ -1,12 +1,181 @@
 #include "settings/project_commands.h"
 
+#include "core/file_store.h"
+#include "core/project_reader.h"
+#include "core/project_reset.h"
+#include "core/project_writer.h"
+#include "core/recovery_folder.h"
+#include "core/runtime_error.h"
+#include "services/message_box.h"
+#include "services/program_session.h"
+#include "services/project_save_dialog.h"
+#include "services/qt_text.h"
+#include "settings/project_listener.h"
+
+#include <utility>
+
 namespace tavmoor {
 
-void ProjectCommands::NewProject() {}
-void ProjectCommands::OpenProject() {}
-void ProjectCommands::OpenExample() {}
-void ProjectCommands::SaveProject() {}
-void ProjectCommands::SaveProjectAs() {}
-void ProjectCommands::KeepUnsaved() {}
+namespace {
+
+constexpr std::string_view OpenFilter = "Tavmoor project (.tavp)| *.tavp";
+
+std::vector<std::filesystem::path> RecoveryPlaces() {
+    std::error_code error; // a place that is not there is not listed
+    const auto folder = RecoveryFolder();
+    return std::filesystem::is_directory(folder, error) ? std::vector<std::filesystem::path>{folder}
+                                                        : std::vector<std::filesystem::path>{};
+}
+
+} // namespace
+
+void ProjectCommands::NewProject() {
+    if (!AskYesNo(&owner_,
+                  QStringLiteral("If not saved, all changes made in current project will be lost!\n"
+                                 "Do you want to start new project?"),
+                  QStringLiteral("New project"))) {
+        return;
+    }
+    KeepUnsaved();
+    context_.windows.Unload(WindowName::Form17);
+    Reset();
+    context_.session.recovery.Rest(context_.session.document);
+    context_.windows.Main()->ShowDocument();
+}
+
+void ProjectCommands::OpenProject() {
+    WorkingValues& working = context_.session.document.Working;
+    const std::string path =
+        AskForProject("Open Tavmoor project ...",
+                      working.Recent.empty() ? working.LastProjectFolder : working.Recent);
+    working.LastProjectFolder = path;
+    Open(path);
+}
+
+void ProjectCommands::OpenExample() {
+    Open(AskForProject("Open Example", context_.session.programFolder));
+}
+
+std::string ProjectCommands::AskForProject(std::string_view title, const std::string& start) {
+    dialog_.hOwner = &owner_;
+    dialog_.FileName.clear();
+    dialog_.FileTitle.clear();
+    dialog_.InitDir = start;
+    dialog_.DialogTitle = title;
+    dialog_.Filter = OpenFilter;
+    dialog_.FilterIndex = 1;
+    dialog_.SidebarFolders = RecoveryPlaces();
+    dialog_.ShowOpen();
+    dialog_.SidebarFolders.clear();
+    return dialog_.FileName;
+}
+
+void ProjectCommands::Open(const std::string& path) {
+    if (path.empty()) {
+        return;
+    }
+    if (IsInRecoveryFolder(path)) {
+        OpenRecovered(path);
+        return;
+    }
+    KeepUnsaved();
+    Reset();
+    Read(path);
+    ProgramSession& session = context_.session;
+    session.settings.recentProject = path;
+    session.recovery.Rest(session.document);
+}
+
+void ProjectCommands::OpenRecovered(const std::string& path) {
+    ProgramSession& session = context_.session;
+    const std::string recent = session.document.Working.Recent;
+    // Read before the current project is kept: that may push out the oldest copy.
+    const ProfileFile file = ProfileFile::Load(path);
+    KeepUnsaved();
+    Reset();
+    dialog_.FileName.clear(); // a save must not take the copy for the project's own file
+    ProjectListener listener(context_, owner_);
+    ReadProjectFrom(file, session.document, session.programFolder, listener);
+    session.document.Working.Recent = recent;
+    session.recovery.Adopt(path, session.document);
+    ShowOpened();
+}
+
+void ProjectCommands::Reset() {
+    ProgramSession& session = context_.session;
+    ResetProjectSettings(session.document);
+    ResetObjects(session.document);
+    session.VisualEditorOpened = false;
+    MainWindowCommands& main = *context_.windows.Main();
+    main.HidePanels();
+    main.ShowMainSettings();
+}
+
+void ProjectCommands::Read(const std::string& path) {
+    ProgramSession& session = context_.session;
+    session.document.Working.Recent = path;
+    session.document.Working.ProjectPath = path;
+    ProjectListener listener(context_, owner_);
+    ReadProject(session.document, session.programFolder, listener);
+    ShowOpened();
+}
+
+void ProjectCommands::ShowOpened() {
+    context_.windows.Main()->ShowMainSettings();
+    context_.windows.Main()->StopSound();
+}
+
+void ProjectCommands::SaveProject() {
+    const std::string& path = context_.session.document.Working.ProjectPath;
+    Save(path.empty() ? AskForName : std::string_view(path));
+}
+
+void ProjectCommands::SaveProjectAs() {
+    Save(AskForName);
+}
+
+void ProjectCommands::Save(std::string_view target) {
+    ProgramSession& session = context_.session;
+    WorkingValues& working = session.document.Working;
+    const WorkingValues before = working;
+    const std::string dialogBefore = dialog_.FileName;
+    dialog_.hOwner = &owner_;
+    CommonProjectSaveDialog dialog(dialog_);
+    try {
+        if (!tavmoor::SaveProject(session.document, std::string(target), session.programFolder,
+                                  dialog)) {
+            return;
+        }
+    } catch (const RuntimeError& error) {
+        // The project stays what it was, so that the next save goes to the file that it has.
+        working = before;
+        dialog_.FileName = dialogBefore;
+        ShowMessageBox(&owner_,
+                       {QStringLiteral("The project was not saved.\n") + ToQString(error.what()),
+                        QStringLiteral("Save project"), BoxButtons::Ok, BoxIcon::Critical});
+        return;
+    }
+    session.settings.recentProject = working.Recent;
+    session.recovery.Rest(session.document);
+    context_.windows.Main()->ShowDocument();
+}
+
+void ProjectCommands::OfferRecovered() {
+    const std::string path = std::exchange(context_.session.recoveredProject, {});
+    if (path.empty() || !FileExists(path)) {
+        return;
+    }
+    if (AskYesNo(&owner_,
+                 QStringLiteral("The program did not end regularly the last time. Your project was "
+                                "kept in\n%1\nDo you want to open it now?")
+                     .arg(ToQString(path)),
+                 QStringLiteral("Recovery of unsaved projects"))) {
+        OpenRecovered(path);
+    }
+}
+
+void ProjectCommands::KeepUnsaved() {
+    context_.session.recovery.KeepAndLeaveIgnoringErrors(context_.session.document);
+}
 
 } // namespace tavmoor

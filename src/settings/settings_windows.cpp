@@ -1,6 +1,8 @@
 #include "settings/settings_windows.h"
 
 #include "services/service_windows.h"
+#include "settings/command_descriptions_window.h"
+#include "settings/build_window.h"
 #include "settings/main_menu.h"
 #include "settings/main_window.h"
 #include "settings/picture_preview_window.h"
@@ -17,6 +19,8 @@ void RegisterSettingsWindows(ProgramContext context) {
     Register<Form7>(context, WindowName::Form7);
     Register<Form3>(context, WindowName::Form3);
     Register<Form5>(context, WindowName::Form5);
+    Register<Form4>(context, WindowName::Form4);
+    Register<Form8>(context, WindowName::Form8);
     Register<menu1>(context, WindowName::menu1);
 }
 

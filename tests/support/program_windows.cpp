@@ -12,6 +12,7 @@ ProgramWindows::ProgramWindows() {
     session.programFolder = folder.Document("program");
     session.settingsPath = folder.Document("program/tavmoor.ini");
     std::filesystem::create_directories(folder.Native("program"));
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder.Native("data").string()));
     RegisterSettingsWindows(Context());
 }
 

@@ -1,0 +1,30 @@
+#include "settings/project_listener.h"
+
+#include "services/message_box.h"
+#include "services/qt_text.h"
+#include "services/session_fonts.h"
+
+#include <QCoreApplication>
+
+namespace tavmoor {
+
+void ProjectListener::ShowMessage(std::string_view text, std::string_view title) {
+    ShowMessageBox(&owner_, {ToQString(text), ToQString(title)});
+}
+
+void ProjectListener::FontRead(std::string_view path) {
+    const std::string font(path);
+    AddSessionFontsIgnoringErrors({&font, 1});
+}
+
+void ProjectListener::LetEventsRun() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void ProjectListener::ApplyTemplateCapabilities() {}
+
+void ProjectListener::ProjectTitleChanged(std::string_view /*path*/) {
+    context_.windows.Main()->ShowDocument();
+}
+
+} // namespace tavmoor

@@ -1,0 +1,159 @@
+#include "support/build_project.h"
+#include "support/program_windows.h"
+
+#include "core/runtime_error.h"
+#include "services/shell.h"
+#include "services/status_label.h"
+#include "settings/build_window.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QTimer>
+
+namespace tavmoor {
+
+namespace {
+
+/// A shell that starts nothing.
+class IdleShell final : public Shell {
+public:
+    std::vector<std::string> started;
+
+    ShellOutcome OpenDocument(std::string_view /*path*/) override { return {}; }
+    ShellOutcome OpenAddress(std::string_view /*address*/) override { return {}; }
+    ShellOutcome StartProgram(std::string_view path,
+                              const std::vector<std::string>& /*arguments*/) override {
+        started.emplace_back(path);
+        return {false, "Wine is missing"};
+    }
+    ShellOutcome OpenHelpFile(std::string_view /*path*/) override { return {}; }
+
+private:
+    ScopedService<Shell> slot_{*this};
+};
+
+} // namespace
+
+class BuildWindow : public test::ProgramWindows {
+protected:
+    BuildWindow() {
+        qputenv("TMPDIR", QByteArray::fromStdString(folder.Native().string()));
+        Document() = *project_.document;
+    }
+    ~BuildWindow() override { qunsetenv("TMPDIR"); }
+
+    Form8& Open() {
+        Main();
+        return static_cast<Form8&>(windows.OpenFromMain(WindowName::Form8));
+    }
+    static QString Status(QWidget& form) { return Find<StatusLabel>(form, "Label1").Text(); }
+    static QString NameStyle(QWidget& form) { return Find(form, "Text1").styleSheet(); }
+
+    test::BuildProject project_;
+};
+
+TEST_F(BuildWindow, ShowsFolderNameAndWishAndNeedsAFolder) {
+    session.settings.testAfterBuild = true;
+    {
+        auto& form = Open();
+        EXPECT_EQ(Find<QLabel>(form, "Label2").toolTip().toStdString(), Document().CdFolder());
+        EXPECT_EQ(Find<QLineEdit>(form, "Text1").text(), QStringLiteral("Holiday"));
+        EXPECT_TRUE(Find<QCheckBox>(form, "Check1").isChecked());
+        form.Unload();
+    }
+    Settle();
+    EXPECT_NE(Shown(WindowName::Form1), nullptr);
+    Document().OsnovnaPodesavanja.GlavniDirektorijum.clear();
+    auto& form = Open();
+    EXPECT_EQ(Find<QLabel>(form, "Label2").text(),
+              QStringLiteral("CD-ROM FILES FOLDER NOT SELECTED! GO BACK TO MAIN AUTORUN SETTINGS."))
+        << "all of it is seen";
+    EXPECT_FALSE(Find(form, "Command1").isEnabled());
+}
+
+TEST_F(BuildWindow, NamesAreRefusedUntilTheyAreGood) {
+    auto& form = Open();
+    Type(form, "Text1", QStringLiteral("my app"));
+    test::ScriptedBoxes boxes;
+    Click(form, "Command1");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].title, QString());
+    EXPECT_TRUE(boxes.shown[0].text.contains(QStringLiteral("\\''?*<':>+[]/\r\n\r\nYou want")));
+    EXPECT_EQ(Find<QLineEdit>(form, "Text1").text(), QStringLiteral("my_app"));
+    EXPECT_EQ(NameStyle(form), QStringLiteral("background: #ffff00"));
+    EXPECT_EQ(test::Listing(project_.folder.Native("disc")), "");
+
+    Type(form, "Text1", QString());
+    Click(form, "Command1");
+    ASSERT_EQ(boxes.shown.size(), 2U);
+    EXPECT_EQ(boxes.shown[1].text, QStringLiteral("Filename cannot be blank!"));
+    EXPECT_TRUE(form.Unload()) << "nothing runs";
+}
+
+TEST_F(BuildWindow, AMissingFolderLeadsBackToItsField) {
+    std::filesystem::remove(project_.folder.Native("disc"));
+    auto& form = Open();
+    test::ScriptedBoxes boxes;
+    Click(form, "Command1");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Error..."));
+    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
+    EXPECT_EQ(boxes.shown[0].text.toStdString(),
+              Document().CdFolder() + " does not exist!\r\nYou have to select CD-ROM files folder "
+                                      "on your local disk.");
+    EXPECT_EQ(windows.Find(WindowName::Form8), nullptr);
+    ASSERT_NE(Shown(WindowName::Form1), nullptr);
+    EXPECT_TRUE(Find(*Shown(WindowName::Form1), "Frame2").isVisible());
+}
+
+TEST_F(BuildWindow, BuildsStaysOpenMeanwhileAndTellsThatTheStartFailed) {
+    auto& form = Open();
+    Find<QCheckBox>(form, "Check1").setChecked(true);
+    IdleShell shell;
+    test::ScriptedBoxes boxes;
+    QString meanwhile;
+    bool refused = false;
+    bool disabled = false;
+    QTimer::singleShot(50, &form, [&] {
+        meanwhile = Status(form);
+        refused = !form.Unload();
+        disabled = !Find(form, "Command1").isEnabled() && !Find(form, "Check1").isEnabled();
+        form.Build(); // a second build does not begin
+    });
+    Click(form, "Command1");
+    EXPECT_EQ(meanwhile, QStringLiteral("Checking files..."));
+    EXPECT_TRUE(refused);
+    EXPECT_TRUE(disabled);
+    EXPECT_EQ(test::Listing(project_.folder.Native("disc")),
+              "Autorun.arn Autorun.ico Autorun.inf Holiday.exe");
+    EXPECT_EQ(Status(form), QStringLiteral("Completed..."));
+    EXPECT_TRUE(Find<QProgressBar>(form, "Progress").format().endsWith(QStringLiteral(", 100 %")));
+    EXPECT_EQ(Find<StatusLabel>(form, "Note").Text(), QString()) << "all was placed";
+    EXPECT_EQ(shell.started,
+              std::vector<std::string>{project_.folder.Document("disc/Holiday.exe")});
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text, QStringLiteral("Wine is missing"));
+    EXPECT_TRUE(Find(form, "Command1").isEnabled());
+    EXPECT_TRUE(form.Unload());
+}
+
+TEST_F(BuildWindow, AfterAFailureTheNextBuildCanBegin) {
+    auto& form = Open();
+    Document().OsnovnaPodesavanja.PozadinskaSlika = "Z:\\gone\\back.bmp";
+    test::ScriptedBoxes boxes;
+    Click(form, "Command1");
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Error in file"));
+    EXPECT_TRUE(Status(form).startsWith(QStringLiteral("Aborted\r\nThere was an error")));
+    EXPECT_TRUE(Find(form, "Command1").isEnabled());
+
+    std::filesystem::remove_all(folder.Native("TAVMOORBuild"));
+    std::ofstream(folder.Native("TAVMOORBuild")) << "in the way";
+    EXPECT_THROW(form.Build(), RuntimeError);
+    EXPECT_TRUE(Find(form, "Command1").isEnabled());
+    EXPECT_TRUE(form.Unload());
+}
+
+} // namespace tavmoor
