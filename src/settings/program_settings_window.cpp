@@ -24,7 +24,7 @@ constexpr WindowLook Form3Look{.name = WindowName::Form3,
                                .title = u"Program settings",
                                .dragArea = "Image1"};
 
-constexpr int WindowWidth = 600; ///< logical pixels
+constexpr int GroupWidth = 570; ///< logical pixels
 
 struct FlagField {
     const char* objectName;
@@ -58,7 +58,6 @@ QString Literal(QString text) {
 
 Form3::Form3(ProgramContext context) : SkinnedWindow(context, Form3Look) {
     static_assert(FlagFields.size() == FlagCount);
-    setFixedWidth(WindowWidth);
     auto* layout = new QVBoxLayout(Body());
     layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
     layout->setSpacing(theme::Gap);
@@ -70,8 +69,9 @@ Form3::Form3(ProgramContext context) : SkinnedWindow(context, Form3Look) {
     }
     layout->insertWidget(2, MakeFolderGroup());
     layout->addWidget(MakeAutorunRow());
-    layout->addStretch(1);
     layout->addWidget(MakeButtons());
+    // The frame of the window goes with its contents, at every scale and in every font.
+    QWidget::layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QWidget* Form3::MakeFolderGroup() {
@@ -79,11 +79,12 @@ QWidget* Form3::MakeFolderGroup() {
                                                "all temporary files will be placed "),
                                 Body());
     group->setObjectName(QStringLiteral("Frame1"));
+    group->setMinimumWidth(GroupWidth);
     option1_ = new QRadioButton(group);
     option1_->setObjectName(QStringLiteral("Option1"));
     const QString caption =
         QStringLiteral("Use default (%1)").arg(ToQString(InProgramFolder(Session(), R"(build\)")));
-    const int room = WindowWidth - 6 * theme::Margin;
+    const int room = GroupWidth - 5 * theme::Margin; // beside the button and the frame
     option1_->setText(Literal(option1_->fontMetrics().elidedText(caption, Qt::ElideMiddle, room)));
     option1_->setToolTip(caption);
     option2_ = new QRadioButton(QStringLiteral("Let me choose"), group);

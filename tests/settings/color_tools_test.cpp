@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QtTest/QTest>
 
 namespace tavmoor {
 
@@ -67,11 +68,12 @@ TEST_F(ColorTools, TheMenuGoesByKeys) {
     dialogs.colors = {QColor(Qt::red)};
     EXPECT_EQ(PickWhile([this] {
                   auto& menu = *Shown(WindowName::menu2);
+                  EXPECT_TRUE(QTest::qWaitForWindowActive(&menu));
                   EXPECT_TRUE(Find(menu, "Label2").hasFocus());
-                  PressKey(*QApplication::focusWidget(), Qt::Key_Down);
+                  PressKey(Find(menu, "Label2"), Qt::Key_Down);
                   EXPECT_TRUE(Find(menu, "Label1").hasFocus());
-                  PressKey(*QApplication::focusWidget(), Qt::Key_Up);
-                  PressKey(*QApplication::focusWidget(), Qt::Key_Return);
+                  PressKey(Find(menu, "Label1"), Qt::Key_Up);
+                  PressKey(Find(menu, "Label2"), Qt::Key_Return);
               }),
               Red);
 }
