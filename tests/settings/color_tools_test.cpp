@@ -3,6 +3,7 @@
 #include "services/color_pick.h"
 #include "services/color_picture_view.h"
 #include "services/native_path_text.h"
+#include "services/wait_loop.h"
 
 #include <QApplication>
 #include <QImage>
@@ -88,10 +89,11 @@ TEST_F(ColorTools, ASecondChoiceEndsTheFirst) {
 
 TEST_F(ColorTools, ToolsGoWithTheWindowThatAsked) {
     dialogs.AnswerFile(WritePicture());
+    Main();
     QWidget asking;
     QTimer::singleShot(0, &asking, [&] {
         OpenPicture();
-        asking.setProperty("unloaded", true);
+        asking.setProperty(UnloadedProperty, true);
     });
     EXPECT_EQ(PickColor(Context(), {20, 20}, asking), std::nullopt);
     EXPECT_EQ(Shown(WindowName::PicPrev), nullptr);
