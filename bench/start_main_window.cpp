@@ -1,5 +1,6 @@
 #include "app/program_application.h"
 #include "app/start_program.h"
+#include "core/run_marker.h"
 #include "first_paint.h"
 
 /// The program as it starts, up to the painted main window; then it ends at once.
@@ -8,6 +9,7 @@ int main(int argc, char** argv) {
     tavmoor::ProgramSession session;
     tavmoor::WindowRegistry windows;
     tavmoor::bench::EndAtFirstPaintOf(application, QStringLiteral("Form1"));
-    tavmoor::StartProgram({session, windows});
+    const tavmoor::RunMarker marker;
+    tavmoor::StartProgram({session, windows}, marker);
     return QApplication::exec();
 }

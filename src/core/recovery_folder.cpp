@@ -199,6 +199,10 @@ void RecoveryCopy::Adopt(const std::string& copy, const ProjectDocument& documen
     textAtRest_ = ""; // no project has this text
     path_ = copy;
     copied_ = ProjectText(document);
+    if (const auto native = FindNativePath(copy)) {
+        std::error_code ignored; // an older time only hides it after a second crash
+        fs::last_write_time(*native, fs::file_time_type::clock::now(), ignored);
+    }
 }
 
 std::string RecoveryCopy::Keep(const ProjectDocument& document) {

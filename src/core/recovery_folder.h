@@ -43,6 +43,7 @@ public:
     /// The project is as new, as opened or as saved: there is nothing to recover in it.
     void Rest(const ProjectDocument& document);
     /// The project was opened from a copy: it differs from its file until it is saved.
+    /// The copy counts as written now, so that a crash of this run offers it again.
     void Adopt(const std::string& copy, const ProjectDocument& document);
     /// Brings the copy up to date when the project differs from its file, and deletes it when it no
     /// longer does.

@@ -41,6 +41,8 @@ frmAbout::frmAbout(ProgramContext context) : SkinnedWindow(context, AboutLook) {
     layout->addWidget(emblem, 0, 0, Qt::AlignTop);
     layout->addWidget(MakeContact(), 0, 1);
     layout->addWidget(MakeButtons(), 1, 0, 1, 2);
+    // The frame of the window goes with its contents, at every scale and in every font.
+    QWidget::layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QWidget* frmAbout::MakeContact() {
@@ -59,14 +61,16 @@ QWidget* frmAbout::MakeContact() {
     contact->setLineWrapMode(QPlainTextEdit::NoWrap);
     constexpr int Frame = 24; // borders and inner margins of the box
     const QSize text = contact->fontMetrics().size(0, ContactText());
-    contact->setMinimumSize(text.width() + Frame, text.height() + Frame);
+    contact->setFixedHeight(text.height() + Frame);
+    contact->setMinimumWidth(text.width() + Frame);
     auto* update = new PictureButton({"Command1", "update", u"Check for &updates",
                                       u"Click here to check if newer release is available"},
                                      column);
     connect(update, &QAbstractButton::clicked, this, &frmAbout::CheckForUpdate);
     layout->addWidget(version);
-    layout->addWidget(contact, 1);
+    layout->addWidget(contact);
     layout->addWidget(update, 0, Qt::AlignLeft);
+    layout->addStretch(1);
     return column;
 }
 

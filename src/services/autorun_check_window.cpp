@@ -71,8 +71,9 @@ Form13::Form13(ProgramContext context) : SkinnedWindow(context, Form13Look) {
     check1_->setObjectName(QStringLiteral("Check1"));
     check1_->setToolTip(QStringLiteral("Opens this window every time the program starts"));
     layout->addWidget(check1_);
-    layout->addStretch(1);
     layout->addWidget(MakeButtons());
+    // The frame of the window goes with its contents, at every scale and in every font.
+    QWidget::layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QWidget* Form13::MakeButtons() {

@@ -74,11 +74,12 @@ PicPrev::PicPrev(ProgramContext context) : SkinnedWindow(context, PicPrevLook) {
     auto* layout = new QGridLayout(Body());
     layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
     layout->setSpacing(theme::Gap);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(view_, 0, 0);
     layout->addWidget(MakeTools(), 0, 1);
     layout->addWidget(MakeChoice(), 1, 0, 1, 2);
     connect(view_, &ColorPictureView::Picked, this, &PicPrev::ShowSample);
+    // The frame of the window goes with its contents, at every scale and in every font.
+    QWidget::layout()->setSizeConstraint(QLayout::SetFixedSize);
     view_->setFocus();
 }
 

@@ -54,9 +54,10 @@ menu2::menu2(ProgramContext context) : SkinnedWindow(context, Menu2Look) {
     auto* layout = new QVBoxLayout(Body());
     layout->setContentsMargins(1, 5, 1, 5);
     layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     AddEntry("Label2", u"Select color from palette", "palette", &PickFromPalette);
     AddEntry("Label1", u"Pick color from picture", "eyedropper", &PickFromPicture);
+    // The frame of the window goes with its contents, at every scale and in every font.
+    QWidget::layout()->setSizeConstraint(QLayout::SetFixedSize);
     Body()->findChild<MenuEntryLabel*>()->setFocus();
 }
 

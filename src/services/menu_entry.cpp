@@ -13,7 +13,7 @@ namespace {
 // Logical pixels.
 constexpr int EntryHeight = 30;
 constexpr int IconSide = 18;
-constexpr int TextLeft = 28;
+constexpr int TextLeft = 32;
 
 } // namespace
 

@@ -37,6 +37,13 @@ struct ProgramSession {
 /// A colour choice that the user cancelled.
 inline constexpr std::string_view CancelledResult = "999999999";
 
+/// What the settings file has for a compress folder that the user did not choose.
+inline constexpr std::string_view DefaultCompressFolder = "default";
+
+/// The folder in which a build works: the one chosen in the program settings, otherwise
+/// BuildFolder.
+std::string CompressFolder(const ProgramSettings& settings);
+
 /// `programFolder`\`name`, with one backslash between them.
 std::string InProgramFolder(const ProgramSession& session, std::string_view name);
 

@@ -120,6 +120,7 @@ constexpr MainTextRow VerticalText{.caption = u"&Vertical text",
                                    .sizeKey = "Vertfontvelicina"};
 
 constexpr PictureFieldDescription LogoPicture{.label = "Label16",
+                                              .meaning = u"Logo picture",
                                               .browse = "Command12",
                                               .remove = "Command55",
                                               .browseTooltip = u"Choose logo picture",

@@ -23,11 +23,12 @@ CommandLookSample::CommandLookSample(QWidget* parent)
 
 void CommandLookSample::SetLook(const CommandButtonLook& look) {
     look_ = look;
-    sample_->setFont(ToQFont(look.font));
+    // The font comes last: the program's style sheet takes its own back when the label gets one.
     sample_->setStyleSheet(
         QStringLiteral("color: %1; background-color: %2; border: 1px solid %3; padding: 4px 12px;")
             .arg(ToQColor(look.textColor).name(), ToQColor(look.backColor).name(),
                  theme::Border.name()));
+    sample_->setFont(ToQFont(look.font));
     Place();
 }
 

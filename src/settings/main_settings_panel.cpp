@@ -2,7 +2,6 @@
 
 #include "core/text_case.h"
 #include "services/color_box.h"
-#include "services/color_pick.h"
 #include "services/common_dialog.h"
 #include "services/file_name_check.h"
 #include "services/path_box.h"
@@ -13,7 +12,9 @@
 #include "services/skinned_window.h"
 #include "services/theme.h"
 #include "services/value_label.h"
+#include "settings/color_pick_button.h"
 #include "settings/field_pickers.h"
+#include "settings/picture_field.h"
 #include "settings/step_checks.h"
 #include "templates/template_catalogue.h"
 
@@ -36,6 +37,16 @@ constexpr std::array Fields{
     FieldBinding{"Label19", FieldForm::Color, BaseSection, "Boja prozora"},
     FieldBinding{"Label35", FieldForm::Shown, TextSection, "Ikona"},
 };
+
+constexpr PictureFieldDescription BackgroundPicture{.label = "Label11",
+                                                    .meaning = u"Background picture",
+                                                    .browse = "Command1",
+                                                    .remove = "Command51",
+                                                    .browseTooltip =
+                                                        u"Choose autorun background picture...",
+                                                    .removeTooltip = u"Remove background picture",
+                                                    .title = "Choose autorun background picture...",
+                                                    .filter = AutorunPictureFilter};
 
 constexpr int IconSide = 32;
 constexpr int ColorBoxWidth = 120;
@@ -128,34 +139,21 @@ QWidget* Frame2::MakeBackgroundGroup() {
     auto* group =
         MakeGroup(u"Choose background picture and color of main autorun window", Body(), grid);
     group->setObjectName(QStringLiteral("Label2"));
-    auto* picture = MakeValue("Label11", u"Background picture", group);
-    auto* browse = new PictureButton(
-        {"Command1", "browse", u"", u"Choose autorun background picture...", ButtonLook::Icon},
-        group);
-    auto* remove = new PictureButton(
-        {"Command51", "remove", u"", u"Remove background picture", ButtonLook::Icon}, group);
+    BaseSettings& settings = Document().OsnovnaPodesavanja;
+    auto* picture = new PictureField(BackgroundPicture, Context(), settings.PozadinskaSlika, group);
     auto* color = new ColorBox("Label19", u"", u"Back color", group);
     color->setFixedWidth(ColorBoxWidth);
-    backColor_ = new PictureButton(
+    auto* pickColor = new ColorPickButton(
         {"Command2", "palette", u"", u"Click here to choose background color", ButtonLook::Icon},
-        group);
-    grid->addWidget(MakeLabel(u"Background picture:", group, browse), 0, 0);
+        Context(), *color, settings.BojaProzora, group);
+    grid->addWidget(MakeLabel(u"Background picture:", group, picture), 0, 0);
     grid->addWidget(picture, 0, 1, 1, 3);
-    grid->addWidget(browse, 0, 4);
-    grid->addWidget(remove, 0, 5);
     grid->addWidget(MakeLabel(u"Back color", group, color), 1, 0);
     grid->addWidget(color, 1, 1);
-    grid->addWidget(backColor_, 1, 2);
+    grid->addWidget(pickColor, 1, 2);
     grid->setColumnStretch(3, 1);
-    connect(browse, &QAbstractButton::clicked, this, &Frame2::BrowseBackground);
-    connect(remove, &QAbstractButton::clicked, this, [this] { StoreBackground({}); });
-    connect(new PathDrop(*picture, PathKind::File), &PathDrop::Dropped, this,
-            [this](const QString& path) {
-                TakePicture(Context(), *this, FromQString(path),
-                            [this](const std::string& taken) { StoreBackground(taken); });
-            });
-    connect(color, &QAbstractButton::clicked, this, &Frame2::PickBackColor);
-    connect(backColor_, &QAbstractButton::clicked, this, &Frame2::PickBackColor);
+    connect(picture, &PictureField::Changed, this, &Frame2::ShowDocument);
+    connect(pickColor, &ColorPickButton::Changed, this, &Frame2::ShowDocument);
     return group;
 }
 
@@ -239,24 +237,6 @@ void Frame2::BrowseCdFolder() {
 
 void Frame2::FocusCdFolder() {
     folder_->setFocus();
-}
-
-void Frame2::BrowseBackground() {
-    PickPicture(Context(), *this, "Choose autorun background picture...", AutorunPictureFilter,
-                Document().OsnovnaPodesavanja.PozadinskaSlika,
-                [this](const std::string& path) { StoreBackground(path); });
-}
-
-void Frame2::StoreBackground(const std::string& path) {
-    Document().OsnovnaPodesavanja.PozadinskaSlika = path;
-    ShowDocument();
-}
-
-void Frame2::PickBackColor() {
-    if (const auto color = PickColor(Context(), ColorMenuPlace(*backColor_), *this)) {
-        Document().OsnovnaPodesavanja.BojaProzora = *color;
-        ShowDocument();
-    }
 }
 
 void Frame2::BrowseIcon() {

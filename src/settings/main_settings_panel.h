@@ -10,7 +10,6 @@ class QVBoxLayout;
 namespace tavmoor {
 
 class PathBox;
-class PictureButton;
 class ValueLabel;
 
 /// `Frame2`, the main settings: the folder with the disc's content, the template, the background
@@ -35,9 +34,6 @@ private:
     QWidget* MakeIconGroup();
     QWidget* MakeFurtherSettings();
 
-    void BrowseBackground();
-    void StoreBackground(const std::string& path);
-    void PickBackColor();
     void BrowseIcon();
     void StoreIcon(const std::string& path);
     void ShowIconIgnoringLoadErrors();
@@ -45,7 +41,6 @@ private:
 
     PathBox* folder_ = nullptr;
     ValueLabel* templateName_ = nullptr;
-    PictureButton* backColor_ = nullptr;
     QLabel* icon_ = nullptr;
 };
 

@@ -15,6 +15,7 @@ PictureField::PictureField(const PictureFieldDescription& description, ProgramCo
                            std::string& path, QWidget* parent)
     : QWidget(parent), description_(description), context_(context), path_(path) {
     auto* label = new ValueLabel(description.label, this);
+    label->setAccessibleName(QString::fromUtf16(description.meaning));
     auto* browse = new PictureButton(
         {description.browse, "browse", u"", description.browseTooltip, ButtonLook::Icon}, this);
     auto* remove = new PictureButton(

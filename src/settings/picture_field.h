@@ -11,8 +11,9 @@ namespace tavmoor {
 
 /// What makes a field for a picture.
 struct PictureFieldDescription {
-    const char* label;  ///< object name of the ValueLabel with the path
-    const char* browse; ///< object names of the two buttons
+    const char* label;       ///< object name of the ValueLabel with the path
+    const char16_t* meaning; ///< of the path, its accessible name
+    const char* browse;      ///< object names of the two buttons
     const char* remove;
     const char16_t* browseTooltip;
     const char16_t* removeTooltip;

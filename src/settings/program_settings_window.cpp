@@ -24,7 +24,7 @@ constexpr WindowLook Form3Look{.name = WindowName::Form3,
                                .title = u"Program settings",
                                .dragArea = "Image1"};
 
-constexpr int WindowWidth = 600; ///< logical pixels
+constexpr int GroupWidth = 570; ///< at least; logical pixels
 
 struct FlagField {
     const char* objectName;
@@ -42,13 +42,6 @@ constexpr std::array<FlagField, 4> FlagFields{{
 }};
 constexpr std::size_t AutoplayFlag = 3;
 
-/// What the file has for a folder that the user did not choose.
-constexpr std::string_view DefaultFolder = "default";
-
-bool IsChosenFolder(const std::string& folder) {
-    return !folder.empty() && folder != DefaultFolder && folder != BuildFolder();
-}
-
 /// The caption of a button that shows it as it is, an ampersand too.
 QString Literal(QString text) {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -58,20 +51,23 @@ QString Literal(QString text) {
 
 Form3::Form3(ProgramContext context) : SkinnedWindow(context, Form3Look) {
     static_assert(FlagFields.size() == FlagCount);
-    setFixedWidth(WindowWidth);
     auto* layout = new QVBoxLayout(Body());
     layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
     layout->setSpacing(theme::Gap);
+    constexpr std::size_t FlagsAboveFolder = 2;
     for (std::size_t i = 0; i < FlagCount; ++i) {
+        if (i == FlagsAboveFolder) {
+            layout->addWidget(MakeFolderGroup());
+        }
         const FlagField& field = FlagFields.at(i);
         flags_.at(i) = new QCheckBox(QString::fromUtf16(field.caption), Body());
         flags_.at(i)->setObjectName(QString::fromLatin1(field.objectName));
         layout->addWidget(flags_.at(i));
     }
-    layout->insertWidget(2, MakeFolderGroup());
     layout->addWidget(MakeAutorunRow());
-    layout->addStretch(1);
     layout->addWidget(MakeButtons());
+    // The frame of the window goes with its contents, at every scale and in every font.
+    QWidget::layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QWidget* Form3::MakeFolderGroup() {
@@ -79,11 +75,15 @@ QWidget* Form3::MakeFolderGroup() {
                                                "all temporary files will be placed "),
                                 Body());
     group->setObjectName(QStringLiteral("Frame1"));
+    // A group does not make room for its title by itself.
+    const int width = qMax(GroupWidth, group->fontMetrics().horizontalAdvance(group->title()) +
+                                           3 * theme::Margin);
+    group->setMinimumWidth(width);
     option1_ = new QRadioButton(group);
     option1_->setObjectName(QStringLiteral("Option1"));
     const QString caption =
         QStringLiteral("Use default (%1)").arg(ToQString(InProgramFolder(Session(), R"(build\)")));
-    const int room = WindowWidth - 6 * theme::Margin;
+    const int room = width - 5 * theme::Margin; // beside the button and the frame
     option1_->setText(Literal(option1_->fontMetrics().elidedText(caption, Qt::ElideMiddle, room)));
     option1_->setToolTip(caption);
     option2_ = new QRadioButton(QStringLiteral("Let me choose"), group);
@@ -120,7 +120,6 @@ QWidget* Form3::MakeAutorunRow() {
         {"Command4", "disc", u"Check &autorun...", u"Opens the autorun check"}, row);
     layout->addWidget(text, 1);
     layout->addWidget(check);
-    EnableWhenStanding(*check, Windows(), WindowName::Form13);
     connect(check, &QAbstractButton::clicked, this, &Form3::OpenAutorunCheck);
     return row;
 }
@@ -153,8 +152,8 @@ void Form3::OnLoad() {
 }
 
 void Form3::ShowFolderSetting() {
-    const std::string& folder = Session().settings.buildFolder;
-    const bool chosen = IsChosenFolder(folder);
+    const std::string folder = CompressFolder(Session().settings);
+    const bool chosen = folder != BuildFolder();
     option1_->setChecked(!chosen);
     option2_->setChecked(chosen);
     text1_->setText(chosen ? ToQString(folder) : QString());
@@ -196,7 +195,7 @@ void Form3::Store() {
     }
     const std::string folder = FromQString(text1_->text());
     settings.buildFolder =
-        option2_->isChecked() && !folder.empty() ? folder : std::string(DefaultFolder);
+        option2_->isChecked() && !folder.empty() ? folder : std::string(DefaultCompressFolder);
     Unload();
 }
 

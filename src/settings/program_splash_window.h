@@ -22,7 +22,7 @@ protected:
 
 private:
     void GoOn();
-    QTimer timer1_;
+    QTimer timer1_{this};
 };
 
 } // namespace tavmoor

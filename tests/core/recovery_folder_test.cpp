@@ -105,7 +105,10 @@ TEST_F(RecoveryFolderTest, AProjectHasOneCopyWhileItDiffersFromItsFile) {
     recovery.Rest(*document_);
     EXPECT_EQ(TitleIn(left), "four") << "the dropped project's copy stays";
 
+    fs::last_write_time(NativePath(left), fs::file_time_type::min() + std::chrono::hours(24));
+    const auto before = fs::file_time_type::clock::now();
     recovery.Adopt(left, *document_);
+    EXPECT_EQ(NewestRecoveryCopy(before), left) << "a second crash offers it again";
     EXPECT_EQ(recovery.KeepAndLeave(*document_), left) << "it was never saved";
 }
 

@@ -2,10 +2,12 @@
 #include "services/text_boxes.h"
 #include "services/value_label.h"
 #include "settings/main_window.h"
+#include "support/plain_window.h"
 #include "support/program_windows.h"
-#include "support/scripted_colors.h"
 
 #include <QCheckBox>
+
+#include <deque>
 
 namespace tavmoor {
 
@@ -39,8 +41,12 @@ TEST_F(AutorunInfoPanel, TextsAreKeptAsTheyAreTyped) {
 }
 
 TEST_F(AutorunInfoPanel, ADoubleClickOrThePaletteButtonChangesAColor) {
-    test::ScriptedColors colors(
-        Context(), {"255", "65280", std::string(CancelledResult), "16711680", "65535", "128"});
+    std::deque<std::string> colors{"255",      "65280", std::string(CancelledResult),
+                                   "16711680", "65535", "128"};
+    test::PlainWindow::Register(Context(), WindowName::menu2, [&] {
+        session.MenuResult = colors.front();
+        colors.pop_front();
+    });
     auto& panel = Open();
     const auto& texts = Texts();
     DoubleClick(panel, "Text2");

@@ -3,11 +3,13 @@
 #include "services/color_pick.h"
 #include "services/color_picture_view.h"
 #include "services/native_path_text.h"
+#include "services/wait_loop.h"
 
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
 #include <QTimer>
+#include <QtTest/QTest>
 
 namespace tavmoor {
 
@@ -67,11 +69,12 @@ TEST_F(ColorTools, TheMenuGoesByKeys) {
     dialogs.colors = {QColor(Qt::red)};
     EXPECT_EQ(PickWhile([this] {
                   auto& menu = *Shown(WindowName::menu2);
+                  EXPECT_TRUE(QTest::qWaitForWindowActive(&menu));
                   EXPECT_TRUE(Find(menu, "Label2").hasFocus());
-                  PressKey(*QApplication::focusWidget(), Qt::Key_Down);
+                  PressKey(Find(menu, "Label2"), Qt::Key_Down);
                   EXPECT_TRUE(Find(menu, "Label1").hasFocus());
-                  PressKey(*QApplication::focusWidget(), Qt::Key_Up);
-                  PressKey(*QApplication::focusWidget(), Qt::Key_Return);
+                  PressKey(Find(menu, "Label1"), Qt::Key_Up);
+                  PressKey(Find(menu, "Label2"), Qt::Key_Return);
               }),
               Red);
 }
@@ -86,10 +89,11 @@ TEST_F(ColorTools, ASecondChoiceEndsTheFirst) {
 
 TEST_F(ColorTools, ToolsGoWithTheWindowThatAsked) {
     dialogs.AnswerFile(WritePicture());
+    Main();
     QWidget asking;
     QTimer::singleShot(0, &asking, [&] {
         OpenPicture();
-        asking.setProperty("unloaded", true);
+        asking.setProperty(UnloadedProperty, true);
     });
     EXPECT_EQ(PickColor(Context(), {20, 20}, asking), std::nullopt);
     EXPECT_EQ(Shown(WindowName::PicPrev), nullptr);

@@ -1,9 +1,11 @@
 #include "support/program_windows.h"
 
 #include "services/color_value.h"
+#include "services/theme.h"
 #include "services/value_label.h"
 #include "settings/main_window.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -25,6 +27,8 @@ private:
 
 class CommandDescriptions : public test::ProgramWindows {
 protected:
+    CommandDescriptions() { theme::Apply(*qApp); }
+
     SkinnedWindow& Open() {
         Click(static_cast<Form1&>(Main()).ShowPanel(PanelName::Frame4), "Command42");
         return *Shown(WindowName::Form4);

@@ -2,13 +2,15 @@
 #include "services/qt_text.h"
 #include "services/value_label.h"
 #include "settings/main_window.h"
+#include "support/plain_window.h"
 #include "support/program_windows.h"
-#include "support/scripted_colors.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+
+#include <deque>
 
 namespace tavmoor {
 
@@ -180,7 +182,11 @@ TEST_P(ScreenPanels, TheFontDialogReplacesAllSix) {
 }
 
 TEST_P(ScreenPanels, ColorsOfTextAndWindow) {
-    test::ScriptedColors colors(Context(), {"255", "65280", "65535", std::string(CancelledResult)});
+    std::deque<std::string> colors{"255", "65280", "65535", std::string(CancelledResult)};
+    test::PlainWindow::Register(Context(), WindowName::menu2, [&] {
+        session.MenuResult = colors.front();
+        colors.pop_front();
+    });
     auto& panel = Open();
     DoubleClick(panel, Names().text);
     EXPECT_EQ(Screen().Bojateksta, 255);
