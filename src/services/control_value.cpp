@@ -6,6 +6,7 @@
 #include "services/path_box.h"
 #include "services/qt_text.h"
 #include "services/text_boxes.h"
+#include "services/theme.h"
 #include "services/value_label.h"
 
 #include <QAbstractSlider>
@@ -60,12 +61,22 @@ void SetText(ValueRef value, const QString& text) {
     }
 }
 
+/// A dark back for a text that could hardly be read on the usual white.
+QString BackFor(const QString& textColor) {
+    constexpr int Pale = 170;
+    return qGray(QColor(textColor).rgb()) > Pale ? theme::QuietText.name() : QString();
+}
+
 /// A text colour or back colour in the control's own style sheet, beside the other one.
 void SetStyleColor(QWidget& control, const char* property, ColorValue color) {
     control.setProperty(property, ToQColor(color).name());
     QString sheet;
     for (const auto* name : {"color", "background-color"}) {
-        if (const QString given = control.property(name).toString(); !given.isEmpty()) {
+        QString given = control.property(name).toString();
+        if (given.isEmpty()) {
+            given = BackFor(control.property("color").toString());
+        }
+        if (!given.isEmpty()) {
             sheet += QStringLiteral("%1: %2;").arg(QLatin1String(name), given);
         }
     }

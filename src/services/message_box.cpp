@@ -1,6 +1,8 @@
 #include "services/message_box.h"
 
+#include "services/artwork.h"
 #include "services/service_slot.h"
+#include "services/theme.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -33,20 +35,28 @@ QMessageBox::StandardButton EscapeButtonOf(BoxButtons buttons) {
     return QMessageBox::Ok;
 }
 
-QMessageBox::Icon IconOf(BoxIcon icon) {
+/// The drawing beside the text; "" for none.
+QString DrawingOf(BoxIcon icon) {
     switch (icon) {
     case BoxIcon::Critical:
-        return QMessageBox::Critical;
     case BoxIcon::Warning:
-        return QMessageBox::Warning;
+        return QStringLiteral("warning");
     case BoxIcon::Information:
-        return QMessageBox::Information;
+        return QStringLiteral("info");
     case BoxIcon::Question:
-        return QMessageBox::Question;
+        return QStringLiteral("help");
     case BoxIcon::None:
         break;
     }
-    return QMessageBox::NoIcon;
+    return {};
+}
+
+void ShowDrawing(QMessageBox& box, BoxIcon icon) {
+    constexpr int Side = 40;
+    if (const QString drawing = DrawingOf(icon); !drawing.isEmpty()) {
+        box.setIconPixmap(ArtworkPixmap(drawing, {Side, Side}, box.devicePixelRatioF(),
+                                        icon == BoxIcon::Critical ? theme::Refused : QColor()));
+    }
 }
 
 BoxAnswer AnswerOf(int button) {
@@ -70,7 +80,7 @@ BoxAnswer ShowMessageBox(QWidget* owner, const MessageBoxRequest& request) {
     }
     QMessageBox box(owner);
     box.setObjectName(QStringLiteral("MessageBox"));
-    box.setIcon(IconOf(request.icon));
+    ShowDrawing(box, request.icon);
     box.setWindowTitle(request.title.isEmpty() ? QApplication::applicationDisplayName()
                                                : request.title);
     // File names stand in these texts; none of them is markup.

@@ -87,6 +87,8 @@ QGroupBox { border: 1px solid @Border; border-radius: 5px; margin-top: 9px; padd
 QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0px 4px; color: @QuietText; }
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox::down-arrow { image: url(:/artwork/chevron_down.svg); width: 12px; height: 12px; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QMessageBox QPushButton { min-width: 64px; }
 QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 3px; }
 )");
 }
