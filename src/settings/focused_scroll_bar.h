@@ -5,7 +5,7 @@
 namespace tavmoor {
 
 /// A scroll bar that is a field for a number: the tab key reaches it, and it shows its focus.
-class FocusedScrollBar final : public QScrollBar {
+class FocusedScrollBar : public QScrollBar {
     Q_OBJECT
 
 public:

@@ -1,18 +1,11 @@
 #include "settings/spin_bar.h"
 
-#include "services/theme.h"
-
-#include <QPainter>
-
 namespace tavmoor {
 
 SpinBar::SpinBar(const char* objectName, int most, int page, QWidget* parent)
-    : QScrollBar(Qt::Vertical, parent) {
-    setObjectName(QString::fromLatin1(objectName));
-    setRange(0, most);
-    setPageStep(page);
+    : FocusedScrollBar(objectName, 0, most, page, parent) {
+    setOrientation(Qt::Vertical);
     setInvertedAppearance(true);
-    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractSlider::actionTriggered, this, &SpinBar::TurnAround);
 }
 
@@ -46,18 +39,6 @@ void SpinBar::wheelEvent(QWheelEvent* event) {
     setInvertedControls(false);
     QScrollBar::wheelEvent(event);
     setInvertedControls(true);
-}
-
-void SpinBar::paintEvent(QPaintEvent* event) {
-    QScrollBar::paintEvent(event);
-    QPainter painter(this);
-    if (hasFocus()) {
-        painter.setPen(QPen(theme::Accent, 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    } else {
-        painter.setPen(theme::Border);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
 }
 
 } // namespace tavmoor

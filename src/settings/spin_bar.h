@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QScrollBar>
+#include "settings/focused_scroll_bar.h"
 
 namespace tavmoor {
 
 /// A vertical scroll bar that spins a number: its upper arrow, the Up key and the wheel turned away
 /// raise the value, which is 0 at the lower end.
-class SpinBar final : public QScrollBar {
+class SpinBar final : public FocusedScrollBar {
     Q_OBJECT
 
 public:
@@ -15,7 +15,6 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void TurnAround(int action);

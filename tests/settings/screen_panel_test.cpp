@@ -5,10 +5,12 @@
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <deque>
 
@@ -150,6 +152,15 @@ TEST_P(ScreenPanels, TheUpperArrowRaisesASize) {
     EXPECT_EQ(Screen().Visina, 11);
     ClickAt(bar, {bar.width() / 2, bar.height() - 3});
     EXPECT_EQ(Screen().Visina, 10);
+    const QPointF middle = bar.rect().center();
+    QWheelEvent away(middle, bar.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&bar, &away);
+    EXPECT_GT(Screen().Visina, 10);
+    PressKey(bar, Qt::Key_Home);
+    EXPECT_EQ(Screen().Visina, 768);
+    PressKey(bar, Qt::Key_End);
+    EXPECT_EQ(Screen().Visina, 0);
     bar.setValue(5000);
     EXPECT_EQ(Screen().Visina, 768);
     Find<QScrollBar>(panel, Names().width).setValue(5000);
