@@ -139,6 +139,23 @@ TEST_F(BuildWindow, BuildsStaysOpenMeanwhileAndTellsThatTheStartFailed) {
     EXPECT_TRUE(form.Unload());
 }
 
+TEST_F(BuildWindow, ProgressIsToldInBytesAndPercent) {
+    QProgressBar bar;
+    BuildControls controls;
+    controls.progress = &bar;
+    WindowBuildEvents events(controls);
+    events.ResetProgress();
+    EXPECT_EQ(bar.format(), QString());
+    events.PackageProgress(12'897'485, 50'331'648);
+    EXPECT_EQ(bar.format(), QStringLiteral("12.3 MB of 48.0 MB, 25 %"));
+    EXPECT_EQ(bar.value() * 1000 / bar.maximum(), 256);
+    const std::uint64_t large = 5'000'000'000;
+    events.PackageProgress(large, large);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    events.PackageProgress(0, 0);
+    EXPECT_EQ(bar.format(), QStringLiteral("0.0 KB of 0.0 KB, 100 %"));
+}
+
 TEST_F(BuildWindow, AfterAFailureTheNextBuildCanBegin) {
     auto& form = Open();
     Document().OsnovnaPodesavanja.PozadinskaSlika = "Z:\\gone\\back.bmp";
