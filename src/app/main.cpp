@@ -1,5 +1,5 @@
-#include "program_application.h"
-#include "start_program.h"
+#include "app/program_application.h"
+#include "app/start_program.h"
 
 #include "core/run_marker.h"
 #include "core/runtime_error.h"

@@ -1,4 +1,4 @@
-#include "program_application.h"
+#include "app/program_application.h"
 
 #include "core/runtime_error.h"
 #include "services/artwork.h"

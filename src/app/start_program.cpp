@@ -1,24 +1,14 @@
-#include "start_program.h"
+#include "app/start_program.h"
 
 #include "core/build_folder.h"
 #include "core/program_folder.h"
 #include "core/run_marker.h"
+#include "services/autorun_check.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"
 #include "settings/settings_windows.h"
 
 namespace tavmoor {
-
-namespace {
-
-/// Off Windows there is nothing that a check of the autorun status could mend.
-#ifdef _WIN32
-constexpr bool AutorunStatusMatters = true;
-#else
-constexpr bool AutorunStatusMatters = false;
-#endif
-
-} // namespace
 
 void StartProgram(ProgramContext context, const RunMarker& marker) {
     ProgramSession& session = context.session;

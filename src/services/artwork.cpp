@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <array>
+
 // Stands outside of the namespace, as the macro wants it.
 static void RegisterDrawings() {
     Q_INIT_RESOURCE(artwork);
@@ -15,8 +17,8 @@ namespace tavmoor {
 
 namespace {
 
-/// The line colour of the drawings, replaced where another is wanted.
-constexpr QLatin1String LineColour("#22324A");
+/// The two colours of the line drawings, replaced where another one is wanted.
+constexpr std::array LineColours{"#22324A", "#2F6DB5"};
 
 QByteArray DrawingBytes(const QString& name, const QColor& colour) {
     [[maybe_unused]] static const bool registered = (RegisterDrawings(), true);
@@ -26,7 +28,9 @@ QByteArray DrawingBytes(const QString& name, const QColor& colour) {
     }
     QByteArray bytes = file.readAll();
     if (colour.isValid()) {
-        bytes.replace(LineColour.data(), colour.name().toLatin1());
+        for (const char* lineColour : LineColours) {
+            bytes.replace(lineColour, colour.name().toLatin1());
+        }
     }
     return bytes;
 }

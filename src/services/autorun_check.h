@@ -6,6 +6,13 @@ namespace tavmoor {
 
 class RegistryStore;
 
+/// Off Windows no system starts discs by themselves, and there is nothing that a check could mend.
+#ifdef _WIN32
+inline constexpr bool AutorunStatusMatters = true;
+#else
+inline constexpr bool AutorunStatusMatters = false;
+#endif
+
 /// Sets the system up to start discs by themselves, going on after every refusal of the registry:
 /// the CD-ROM driver's `Autorun` becomes 1 and the user's `NoDriveTypeAutoRun` becomes 0. The
 /// latter is written even when it was 0 before. Lets events run in between, the user's clicks

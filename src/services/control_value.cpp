@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "services/color_box.h"
 #include "services/color_value.h"
+#include "services/path_box.h"
 #include "services/qt_text.h"
 #include "services/text_boxes.h"
 #include "services/value_label.h"
@@ -79,6 +80,9 @@ void ShowText(QWidget& control, const QString& text) {
     } else if (auto* box = qobject_cast<QLineEdit*>(&control); box != nullptr) {
         if (box->text() != text) {
             box->setText(text);
+            if (qobject_cast<PathBox*>(box) == nullptr) {
+                box->setCursorPosition(0); // a long text shows its beginning, a path its name
+            }
         }
     }
 }

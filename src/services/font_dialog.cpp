@@ -3,18 +3,43 @@
 #include "services/custom_colors.h"
 
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <cstdlib>
+
 namespace tavmoor {
 
 namespace {
 
 constexpr QSize SwatchSize(32, 16);
+
+/// The style of a font's family that comes nearest to its weight and slope; the shortest name of
+/// several, which leaves out condensed ones. By itself the dialog knows no other name than "Normal"
+/// for the usual style, and takes just any where a family calls it "Book" or "Regular".
+QString StyleOf(const QFont& font) {
+    constexpr int otherSlope = 1000; // counts more than any difference in weight
+    const QString family = font.family();
+    QString nearest;
+    int nearestDistance = 0;
+    for (const QString& style : QFontDatabase::styles(family)) {
+        const bool sameSlope = QFontDatabase::italic(family, style) == font.italic();
+        const int distance = std::abs(QFontDatabase::weight(family, style) - font.weight()) +
+                             (sameSlope ? 0 : otherSlope);
+        if (nearest.isEmpty() || distance < nearestDistance ||
+            (distance == nearestDistance && style.size() < nearest.size())) {
+            nearest = style;
+            nearestDistance = distance;
+        }
+    }
+    return nearest;
+}
 
 QFont FontOf(const FontChoice& choice) {
     QFont font;
@@ -24,8 +49,13 @@ QFont FontOf(const FontChoice& choice) {
     if (choice.points > 0) {
         font.setPointSizeF(choice.points);
     }
+    // The dialog has styles only for families that it lists.
+    if (!QFontDatabase::hasFamily(font.family())) {
+        font.setFamily(QFontInfo(font).family());
+    }
     font.setBold(choice.bold);
     font.setItalic(choice.italic);
+    font.setStyleName(StyleOf(font));
     font.setUnderline(choice.underline);
     font.setStrikeOut(choice.strikeOut);
     return font;
@@ -49,6 +79,7 @@ FontDialog::FontDialog(const FontChoice& begin, QWidget* owner)
     setWindowTitle(tr("Font"));
     // As a part of this window it has no frame and no buttons of its own, and never closes.
     fonts_->setWindowFlags(Qt::Widget);
+    fonts_->setSizeGripEnabled(false);
     fonts_->setOptions(QFontDialog::DontUseNativeDialog | QFontDialog::NoButtons);
     fonts_->setCurrentFont(FontOf(begin));
     shownFamily_ = fonts_->currentFont().family();
@@ -84,7 +115,7 @@ FontChoice FontDialog::Choice() const {
     }
     const bool sameSize = begin_.points > 0 && font.pointSizeF() == shownPoints_;
     choice.points = sameSize ? begin_.points : font.pointSizeF();
-    choice.bold = font.bold();
+    choice.bold = font.weight() > QFont::Normal;
     choice.italic = font.italic();
     choice.underline = font.underline();
     choice.strikeOut = font.strikeOut();

@@ -1,8 +1,14 @@
 #include "services/program_session.h"
 
+#include "core/build_folder.h"
 #include "core/document_path.h"
 
 namespace tavmoor {
+
+std::string CompressFolder(const ProgramSettings& settings) {
+    const std::string& folder = settings.buildFolder;
+    return folder.empty() || folder == DefaultCompressFolder ? BuildFolder() : folder;
+}
 
 std::string InProgramFolder(const ProgramSession& session, std::string_view name) {
     return WithBackslash(session.programFolder) + std::string(name);

@@ -24,6 +24,8 @@ struct ProgramSession {
 
     /// The result of a colour choice: "" while it is open, CancelledResult, or a decimal colour.
     std::string MenuResult;
+    /// How many colour choices were begun; one that sees another number was given up for a new one.
+    int colorPicks = 0;
     /// What the main window's menu was asked for, 0 for nothing; see MenuAction.
     std::int16_t menuAction = 0;
     /// The canvas was opened since the program started.
@@ -34,6 +36,13 @@ struct ProgramSession {
 
 /// A colour choice that the user cancelled.
 inline constexpr std::string_view CancelledResult = "999999999";
+
+/// What the settings file has for a compress folder that the user did not choose.
+inline constexpr std::string_view DefaultCompressFolder = "default";
+
+/// The folder in which a build works: the one chosen in the program settings, otherwise
+/// BuildFolder.
+std::string CompressFolder(const ProgramSettings& settings);
 
 /// `programFolder`\`name`, with one backslash between them.
 std::string InProgramFolder(const ProgramSession& session, std::string_view name);

@@ -29,17 +29,34 @@ void SetTitle(QDialog& dialog, const QString& title) {
     }
 }
 
-void AddPlaces(QFileDialog& dialog, const QStringList& folders) {
-    if (folders.isEmpty()) {
-        return;
+/// Lists folders among the places of a file dialog for as long as this lives: by itself Qt keeps
+/// them in the user's settings, for the file dialogs of all programs.
+class AddedPlaces {
+public:
+    AddedPlaces(QFileDialog& dialog, const QStringList& folders) : dialog_(dialog) {
+        if (folders.isEmpty()) {
+            return;
+        }
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        before_ = dialog.sidebarUrls();
+        QList<QUrl> places = *before_;
+        for (const QString& folder : folders) {
+            places << QUrl::fromLocalFile(QDir::fromNativeSeparators(folder));
+        }
+        dialog.setSidebarUrls(places);
     }
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    QList<QUrl> places = dialog.sidebarUrls();
-    for (const QString& folder : folders) {
-        places << QUrl::fromLocalFile(QDir::fromNativeSeparators(folder));
+    AddedPlaces(const AddedPlaces&) = delete;
+    AddedPlaces& operator=(const AddedPlaces&) = delete;
+    ~AddedPlaces() {
+        if (before_) {
+            dialog_.setSidebarUrls(*before_);
+        }
     }
-    dialog.setSidebarUrls(places);
-}
+
+private:
+    QFileDialog& dialog_;
+    std::optional<QList<QUrl>> before_;
+};
 
 /// Sets the filters and chooses the one to begin with.
 void SetFilters(QFileDialog& dialog, const FileRequest& request) {
@@ -54,11 +71,25 @@ void SetFilters(QFileDialog& dialog, const FileRequest& request) {
     dialog.selectNameFilter(filters[known ? request.filterIndex - 1 : 0]);
 }
 
+/// The number of the filter that is on. Dialogs tell its whole text or just its name.
+int SelectedFilter(const QFileDialog& dialog, const FileRequest& request) {
+    const auto filters = ParseFilter(request.filter);
+    const QStringList texts = QtNameFilters(filters);
+    const QString selected = dialog.selectedNameFilter();
+    for (int i = 0; i < texts.size(); ++i) {
+        const FileFilter& filter = filters[static_cast<std::size_t>(i)];
+        if (selected == texts[i] || selected.trimmed() == filter.name.trimmed()) {
+            return i + 1;
+        }
+    }
+    return request.filterIndex;
+}
+
 std::optional<FileAnswer> AskForFile(const FileRequest& request, QFileDialog::AcceptMode accept,
                                      QFileDialog::FileMode mode) {
     QFileDialog dialog(request.owner);
     dialog.setObjectName(QStringLiteral("FileDialog"));
-    AddPlaces(dialog, request.sidebarFolders);
+    const AddedPlaces places(dialog, request.sidebarFolders);
     dialog.setAcceptMode(accept);
     dialog.setFileMode(mode);
     SetTitle(dialog, request.title);
@@ -73,9 +104,8 @@ std::optional<FileAnswer> AskForFile(const FileRequest& request, QFileDialog::Ac
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    const auto filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
     return FileAnswer{QDir::toNativeSeparators(dialog.selectedFiles().constFirst()),
-                      filter < 0 ? request.filterIndex : static_cast<int>(filter) + 1};
+                      SelectedFilter(dialog, request)};
 }
 
 /// The picture in an icon file that is nearest to the size, the larger one of two.

@@ -275,7 +275,8 @@ private:
         }
         if (character == U';') {
             tableFont_ = -1;
-        } else if (font->second.name.size() < MostNameBytes) {
+        } else if (font->second.name.size() < MostNameBytes &&
+                   !(character == U' ' && font->second.name.empty())) {
             AppendUtf8(font->second.name, character);
         }
     }

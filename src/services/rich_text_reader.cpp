@@ -9,6 +9,9 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
+#include <vector>
+
 namespace tavmoor {
 
 namespace {
@@ -67,6 +70,23 @@ Qt::Alignment AlignmentOf(RichTextAlignment alignment) {
     return Qt::AlignLeft;
 }
 
+/// The view measures tabs from where the first line begins, rich text from the margin of the page.
+QList<QTextOption::Tab> TabsOf(const RichTextParagraphFormat& format) {
+    std::vector<int> positions = format.tabs;
+    if (format.firstLine < 0) {
+        positions.push_back(format.left); // a line that hangs out has a tab where the others begin
+    }
+    std::sort(positions.begin(), positions.end());
+    QList<QTextOption::Tab> tabs;
+    for (const int position : positions) {
+        const int fromLine = position - format.left - format.firstLine;
+        if (fromLine > 0) {
+            tabs.append(QTextOption::Tab(PixelsOf(fromLine), QTextOption::LeftTab));
+        }
+    }
+    return tabs;
+}
+
 QTextBlockFormat BlockFormat(const RichTextParagraphFormat& format) {
     QTextBlockFormat result;
     result.setAlignment(AlignmentOf(format.alignment));
@@ -75,12 +95,7 @@ QTextBlockFormat BlockFormat(const RichTextParagraphFormat& format) {
     result.setTextIndent(PixelsOf(format.firstLine));
     result.setTopMargin(PixelsOf(format.before));
     result.setBottomMargin(PixelsOf(format.after));
-    QList<QTextOption::Tab> tabs;
-    for (const int tab : format.tabs) {
-        // The view measures tabs from the left margin of the paragraph.
-        tabs.append(QTextOption::Tab(PixelsOf(tab - format.left), QTextOption::LeftTab));
-    }
-    result.setTabPositions(tabs);
+    result.setTabPositions(TabsOf(format));
     return result;
 }
 

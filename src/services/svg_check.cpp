@@ -45,7 +45,27 @@ bool IsAttributeFine(const QXmlStreamAttribute& attribute, qint64& pixels) {
     return embedded >= 0 && pixels >= 0;
 }
 
+/// The points of a path or polygon, each written as two numbers with a comma between them.
+qint64 PointsIn(const QXmlStreamAttribute& attribute) {
+    const auto name = attribute.name();
+    return name == QLatin1String("d") || name == QLatin1String("points")
+               ? attribute.value().count(u',')
+               : 0;
+}
+
 } // namespace
+
+qint64 PathPoints(const QByteArray& svg) {
+    QXmlStreamReader reader(svg);
+    qint64 points = 0;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        for (const QXmlStreamAttribute& attribute : reader.attributes()) {
+            points += PointsIn(attribute);
+        }
+    }
+    return points;
+}
 
 bool IsSelfContainedSvg(const QByteArray& svg, qint64 mostPixels) {
     QXmlStreamReader reader(svg);

@@ -9,4 +9,7 @@ namespace tavmoor {
 /// anywhere; its text must not make the program open other files.
 bool IsSelfContainedSvg(const QByteArray& svg, qint64 mostPixels);
 
+/// How many points the paths and polygons of an svg have; they decide how long drawing it takes.
+qint64 PathPoints(const QByteArray& svg);
+
 } // namespace tavmoor

@@ -75,6 +75,12 @@ QLineEdit[refused="true"], QPlainTextEdit[refused="true"] { border: 2px solid @R
     padding: 1px 4px; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QListWidget:disabled {
     background: @WindowBack; color: @DisabledText; }
+<<<<<<< HEAD
+QListWidget:disabled { selection-background-color: @Border; selection-color: @QuietText; }
+QComboBox::drop-down { border: none; width: 20px; }
+QComboBox::down-arrow { image: url(:/artwork/chevron_down.svg); width: 12px; height: 12px; }
+=======
+>>>>>>> w-info
 QLabel[look="value"] { background: @Surface; border: 1px solid @Border; border-radius: 4px;
     padding: 2px 5px; }
 QLabel[look="note"] { color: @QuietText; }
@@ -84,6 +90,8 @@ QProgressBar { background: @Surface; border: 1px solid @Border; border-radius: 4
 QProgressBar::chunk { background: @AccentPale; border-right: 2px solid @Accent; }
 QGroupBox { border: 1px solid @Border; border-radius: 5px; margin-top: 9px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0px 4px; color: @QuietText; }
+QComboBox::drop-down { border: none; width: 20px; }
+QComboBox::down-arrow { image: url(:/artwork/chevron_down.svg); width: 12px; height: 12px; }
 QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 3px; }
 )");
 }

@@ -10,6 +10,7 @@ ValueLabel::ValueLabel(const char* objectName, QWidget* parent) : QLabel(parent)
     setObjectName(QString::fromLatin1(objectName));
     setProperty("look", QStringLiteral("value"));
     setTextFormat(Qt::PlainText);
+    setIndent(0); // the frame's padding is enough, and all of the width counts for the cut
     setMinimumHeight(theme::ControlHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -17,8 +17,10 @@ namespace tavmoor {
 
 namespace {
 
-constexpr qint64 MostMilliseconds = 5000;
+constexpr qint64 MostMilliseconds = 3000;
 constexpr qint64 MostBitmapPixels = 24'000'000;
+/// How long all lines of polygons may be together, in pixels.
+constexpr double MostLinePixels = 1'000'000;
 constexpr std::size_t MostSavedStates = 256;
 constexpr std::size_t MostObjects = 65536;
 
@@ -68,13 +70,17 @@ private:
         const QPolygonF corners = Corners(record, at);
         return QRectF(Map(corners[0]), Map(corners[1])).normalized();
     }
-    [[nodiscard]] QPolygonF MapPoints(const ByteView& record, std::size_t at,
-                                      std::size_t count) const {
+    /// Points whose lines would run too far to be filled or dashed in time give none.
+    [[nodiscard]] QPolygonF MapPoints(const ByteView& record, std::size_t at, std::size_t count) {
         QPolygonF points;
-        for (std::size_t i = 0; i < count && record.Has(at + i * 4, 4); ++i) {
+        for (std::size_t i = 0; i < count && record.Has(at + i * 4, 4) && lineLength_ > 0; ++i) {
             points << Map(QPointF(record.I16(at + i * 4), record.I16(at + i * 4 + 2)));
+            if (i > 0) {
+                lineLength_ -=
+                    (points[points.size() - 1] - points[points.size() - 2]).manhattanLength();
+            }
         }
-        return points;
+        return lineLength_ > 0 ? points : QPolygonF();
     }
     void UsePen() {
         QPen pen = state_.pen.pen;
@@ -380,6 +386,7 @@ private:
     std::vector<WmfState> saved_;
     std::vector<WmfObject> objects_;
     qint64 bitmapPixels_ = MostBitmapPixels;
+    double lineLength_ = MostLinePixels;
 };
 
 const std::array<std::pair<std::uint16_t, WmfPlayer::Step>, 40> WmfPlayer::Steps{{

@@ -1,13 +1,9 @@
 #include "settings/main_menu.h"
 
-#include "services/artwork.h"
+#include "services/menu_entry.h"
 #include "services/program_session.h"
-#include "services/theme.h"
 
-#include <QAbstractButton>
 #include <QFrame>
-#include <QKeyEvent>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace tavmoor {
@@ -21,41 +17,6 @@ constexpr WindowLook Menu1Look{.name = WindowName::menu1,
                                .chrome = NoChrome,
                                .keptOnTop = true,
                                .closesWhenLeft = true};
-
-/// One entry; the highlight is on the one under the mouse, which also takes the focus.
-class EntryLabel final : public QAbstractButton {
-public:
-    EntryLabel(const MenuEntry& entry, QWidget* parent)
-        : QAbstractButton(parent), icon_(ArtworkIcon(QString::fromLatin1(entry.artwork))) {
-        setText(QString::fromUtf16(entry.text));
-        setAccessibleName(text().trimmed());
-        setObjectName(QStringLiteral("Entry%1").arg(static_cast<int>(entry.action)));
-        setCursor(HandCursor());
-        setFocusPolicy(Qt::StrongFocus);
-    }
-    [[nodiscard]] QSize sizeHint() const override {
-        return {fontMetrics().horizontalAdvance(text()) + TextLeft + 2 * theme::Margin, Height};
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        if (hasFocus()) {
-            painter.fillRect(rect(), theme::AccentPale);
-        }
-        const QRect icon(theme::Gap, (height() - IconSide) / 2, IconSide, IconSide);
-        icon_.paint(&painter, icon);
-        painter.setPen(theme::Text);
-        painter.drawText(rect().adjusted(TextLeft, 0, 0, 0), Qt::AlignVCenter, text());
-    }
-    void enterEvent(QEnterEvent* /*event*/) override { setFocus(); }
-
-private:
-    static constexpr int Height = 30;
-    static constexpr int IconSide = 18;
-    static constexpr int TextLeft = 28;
-    QIcon icon_;
-};
 
 } // namespace
 
@@ -77,7 +38,8 @@ QFrame* menu1::MakeSide(MenuSide side, const char* objectName) {
     layout->setSpacing(0);
     for (const MenuEntry& entry : MenuEntries) {
         if (entry.side == side) {
-            auto* label = new EntryLabel(entry, frame);
+            const QByteArray name = "Entry" + QByteArray::number(static_cast<int>(entry.action));
+            auto* label = new MenuEntryLabel({name.constData(), entry.text, entry.artwork}, frame);
             layout->addWidget(label);
             connect(label, &QAbstractButton::clicked, this,
                     [this, action = entry.action] { Choose(action); });
@@ -98,16 +60,6 @@ void menu1::ShowSide(MenuSide side) {
 void menu1::Choose(MenuAction action) {
     Session().menuAction = static_cast<std::int16_t>(action);
     Unload();
-}
-
-void menu1::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Down) {
-        focusNextChild();
-    } else if (event->key() == Qt::Key_Up) {
-        focusPreviousChild();
-    } else {
-        SkinnedWindow::keyPressEvent(event);
-    }
 }
 
 } // namespace tavmoor

@@ -20,9 +20,6 @@ public:
     /// Shows one side only; called before the menu comes up.
     void ShowSide(MenuSide side);
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     QFrame* MakeSide(MenuSide side, const char* objectName);
     void Choose(MenuAction action);

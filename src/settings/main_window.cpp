@@ -224,7 +224,7 @@ void Form1::ShowDocument() {
     title_->setToolTip(title);
     title_->setText(title_->fontMetrics().elidedText(title, Qt::ElideMiddle, title_->width()));
     for (Panel* panel : panels_) {
-        if (panel != nullptr && panel->isVisible()) {
+        if (panel != nullptr && !panel->isHidden()) {
             panel->ShowDocument();
         }
     }

@@ -4,6 +4,7 @@
 #include "settings/commands_panel.h"
 #include "settings/main_settings_panel.h"
 #include "settings/screen_panel.h"
+#include "settings/screen_panel_description.h"
 #include "settings/sound_panel.h"
 
 namespace tavmoor {

@@ -70,11 +70,10 @@ TEST_F(CommonDialogTest, BeginsWhereAFolderOrAFilePathSaysElseBesideTheProgram) 
     const std::string project = folder_.Write("discs/trip.tavp", "");
     for (const Case& c :
          {Case{"", "", program, QString()},
-          {folder_.Document("discs\\"), "", NativeText("discs"), QString()},
+          {folder_.Document("discs") + "\\", "", NativeText("discs"), QString()},
           {project, "", NativeText("discs"), QStringLiteral("trip.tavp")},
-          {folder_.Document("discs\\new.tavp"), "", NativeText("discs"),
-           QStringLiteral("new.tavp")},
-          {folder_.Document("gone\\trip.tavp"), "", program, QString()},
+          {folder_.Document("discs/new.tavp"), "", NativeText("discs"), QStringLiteral("new.tavp")},
+          {folder_.Document("gone/trip.tavp"), "", program, QString()},
           {"Q:\\discs", "", program, QString()},
           {folder_.Document("discs"), "a.tavp", NativeText("discs"), QStringLiteral("a.tavp")},
           {"", project, NativeText("discs"), QStringLiteral("trip.tavp")}}) {
@@ -182,7 +181,8 @@ TEST_F(CommonDialogTest, ShellDialogsAreCalledByNumberAndSayWhenThereIsNone) {
     dialog_.HelpFile = folder_.Document("a.hlp");
     dialog_.HelpCommand = 257;
     dialog_.HelpKey = "key";
-    for (const std::int16_t number : {5, 8, 10, 11, 12, 13, 14, -1}) {
+    for (const std::int16_t number :
+         std::initializer_list<std::int16_t>{5, 8, 10, 11, 12, 13, 14, -1}) {
         dialog_.SetAction(number);
     }
     dialog_.ShowFindFiles();

@@ -25,6 +25,7 @@ using test::Words;
 namespace {
 
 constexpr QRgb Red = 0xFFFF0000;
+constexpr QRgb Blue = 0xFF0000FF;
 
 /// 24 rows of 32 pixels, all red but for a blue corner.
 QImage Sample() {
@@ -48,18 +49,25 @@ std::string Gif() {
     return "GIF89a\x01\0\x01\0\x80\0\0\xFF\0\0\0\0\0,\0\0\0\0\x01\0\x01\0\0\x02\x02\x44\x01\0;"s;
 }
 
-/// 32 by 32 pixels of one colour, 0xAARRGGBB, with an empty mask; kind 1 is an icon, 2 a cursor.
-std::string IconOfSize(int kind, int size, std::int64_t colour) {
-    std::string pixels;
-    for (int i = 0; i < size * size; ++i) {
-        pixels += Longs({colour});
+/// Squares of one colour each, 0xAARRGGBB, with an empty mask; kind 1 is an icon, 2 a cursor.
+std::string Icons(int kind, const std::vector<std::pair<int, std::int64_t>>& sizesAndColours) {
+    std::string bitmaps;
+    std::string entries;
+    const std::size_t begin = 6 + 16 * sizesAndColours.size();
+    for (const auto& [size, colour] : sizesAndColours) {
+        std::string bitmap =
+            Longs({40, size, size * 2}) + Words({1, 32}) + Longs({0, 0, 0, 0, 0, 0});
+        for (int i = 0; i < size * size; ++i) {
+            bitmap += Longs({colour});
+        }
+        bitmap.append(static_cast<std::size_t>(size * ((size + 31) / 32 * 4)), '\0');
+        entries += std::string(2, static_cast<char>(size)) + std::string(2, '\0') +
+                   Words({1, kind == 1 ? 32 : 5}) +
+                   Longs({static_cast<std::int64_t>(bitmap.size()),
+                          static_cast<std::int64_t>(begin + bitmaps.size())});
+        bitmaps += bitmap;
     }
-    const std::string mask(static_cast<std::size_t>(size * ((size + 31) / 32 * 4)), '\0');
-    const std::string bitmap =
-        Longs({40, size, size * 2}) + Words({1, 32}) + Longs({0, 0, 0, 0, 0, 0}) + pixels + mask;
-    return Words({0, kind, 1}) + static_cast<char>(size) + static_cast<char>(size) +
-           std::string(2, '\0') + Words({1, kind == 1 ? 32 : 5}) +
-           Longs({static_cast<std::int64_t>(bitmap.size()), 22}) + bitmap;
+    return Words({0, kind, static_cast<std::int64_t>(sizesAndColours.size())}) + entries + bitmaps;
 }
 
 std::string FilledRectangleWmf() {
@@ -99,10 +107,15 @@ protected:
 
 TEST_F(PictureLoaderTest, LoadsEveryFormatByItsContent) {
     const std::pair<std::string, QSize> cases[] = {
-        {Encoded("BMP"), {32, 24}},         {Encoded("PNG"), {32, 24}},
-        {Encoded("JPG"), {32, 24}},         {Gif(), {1, 1}},
-        {IconOfSize(1, 32, Red), {32, 32}}, {IconOfSize(2, 32, Red), {32, 32}},
-        {FilledRectangleWmf(), {40, 30}},   {FilledRectangleEmf(), {40, 30}},
+        {Encoded("BMP"), {32, 24}},
+        {Encoded("PNG"), {32, 24}},
+        {Encoded("JPG"), {32, 24}},
+        {Gif(), {1, 1}},
+        {Icons(1, {{32, Red}}), {32, 32}},
+        {Icons(2, {{32, Red}}), {32, 32}},
+        {Icons(1, {{16, Blue}, {32, Red}, {48, Blue}}), {32, 32}},
+        {FilledRectangleWmf(), {40, 30}},
+        {FilledRectangleEmf(), {40, 30}},
     };
     for (const auto& [bytes, size] : cases) {
         const PictureResult result = Load(bytes);
@@ -124,7 +137,7 @@ TEST_F(PictureLoaderTest, RefusesWhatIsCutOffOrNoPicture) {
     ExpectWholeOnly(Encoded("PNG"), 12, 1); // its end chunk
     ExpectWholeOnly(Encoded("JPG"), 0, 1);
     ExpectWholeOnly(Gif(), 1, 1);
-    ExpectWholeOnly(IconOfSize(1, 32, Red), 0, 97);
+    ExpectWholeOnly(Icons(1, {{32, Red}}), 0, 97);
     ExpectWholeOnly(FilledRectangleWmf(), 0, 1);
     ExpectWholeOnly(FilledRectangleEmf(), 0, 1);
 }
@@ -135,13 +148,13 @@ TEST_F(PictureLoaderTest, RefusesHugeDimensionsBeforeDecoding) {
     gif.replace(gif.find(',') + 5, 4, Words({65535, 65535}));
     EXPECT_NE(FaultOf(gif), PictureFault::None);
     std::string packed = Encoded("BMP").substr(0, 54);
-    packed.replace(18, 8, Longs({60000, 60000}));
+    packed.replace(18, 8, Longs({16000, 16000}));
     packed.replace(28, 6, Words({8, 1, 0}));
     EXPECT_EQ(FaultOf(packed + std::string(1100, '\0')), PictureFault::TooLarge);
     std::string jpg = Encoded("JPG");
     const std::size_t frame = jpg.find("\xFF\xC0");
     ASSERT_NE(frame, std::string::npos);
-    jpg.replace(frame + 5, 4, "\xFF\xF0\xFF\xF0");
+    jpg.replace(frame + 5, 4, "\xEA\x60\xEA\x60");
     EXPECT_EQ(FaultOf(jpg), PictureFault::TooLarge);
     EXPECT_EQ(FaultOf(Wmf(32000, 32000, {})), PictureFault::TooLarge);
     EXPECT_EQ(FaultOf(Emf(100000, 100000, 0, {})), PictureFault::TooLarge);
@@ -182,6 +195,20 @@ TEST_F(PictureLoaderTest, GivesUpAMetafileThatPaintsWithoutEnd) {
     clock.start();
     EXPECT_EQ(FaultOf(Wmf(3000, 3000, records)), PictureFault::Damaged);
     EXPECT_LT(clock.elapsed(), 20'000);
+}
+
+TEST_F(PictureLoaderTest, DrawsAnEmfOfVeryManyWildPointsInBoundedTime) {
+    constexpr int Count = 30'000;
+    constexpr int Side = 3900;
+    std::string points;
+    for (int i = 0; i < Count; ++i) {
+        points += Words({i * 7919 % Side, i * 104'729 % Side});
+    }
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(FaultOf(Emf(Side, Side, 1, EmfRecord(86, Longs({0, 0, Side, Side, Count}) + points))),
+              PictureFault::None);
+    EXPECT_LT(clock.elapsed(), 30'000);
 }
 
 TEST_F(PictureLoaderTest, WmfDrawsTextBitmapsAndClips) {

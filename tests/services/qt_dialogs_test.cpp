@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -25,8 +26,7 @@ namespace tavmoor {
 
 namespace {
 
-/// Waits in the event loop for the next dialog, hands it over, and closes it when the action left
-/// it open.
+/// Waits in the event loop for the next dialog, hands it to the next action, which closes it.
 class DialogUser {
 public:
     using Action = std::function<void(QDialog&)>;
@@ -40,21 +40,27 @@ public:
 private:
     void Look() {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || dialog == last_ || !dialog->isVisible()) {
+        if (dialog == nullptr || !dialog->isVisible() || seen_.contains(dialog)) {
             return;
         }
-        last_ = dialog;
+        seen_ << dialog;
         if (next_ < actions_.size()) {
-            actions_[next_++](*dialog);
+            // Not from here: while an action shows another dialog, the timer has to go on.
+            QMetaObject::invokeMethod(
+                dialog, [dialog, action = actions_[next_++]] { action(*dialog); },
+                Qt::QueuedConnection);
         } else {
-            ADD_FAILURE() << "unexpected: " << dialog->windowTitle().toStdString();
+            const auto* box = qobject_cast<QMessageBox*>(dialog);
+            ADD_FAILURE() << "unexpected: " << dialog->windowTitle().toStdString() << ": "
+                          << (box != nullptr ? box->text() : QString()).toStdString();
             dialog->reject();
         }
     }
 
     std::vector<Action> actions_;
     std::size_t next_ = 0;
-    QDialog* last_ = nullptr;
+    /// Cleared with the dialogs: a later one may lie at the same address.
+    QList<QPointer<QDialog>> seen_;
     QTimer timer_;
 };
 
@@ -128,12 +134,15 @@ TEST_F(QtDialogsTest, SaveAddsTheExtensionAndAsksBeforeReplacing) {
     QString question;
     const DialogUser user({[](QDialog& dialog) {
                                TypeName(dialog, QStringLiteral("old"));
-                               TypeName(dialog, QStringLiteral("new"));
+                               dialog.reject();
                            },
                            [&](QDialog& dialog) {
-                               question = dynamic_cast<QMessageBox&>(dialog).text();
-                               dialog.done(QMessageBox::No);
-                           }});
+                               auto& box = dynamic_cast<QMessageBox&>(dialog);
+                               question = box.text();
+                               box.button(QMessageBox::No)->click();
+                           },
+                           [](QDialog& dialog) { TypeName(dialog, QStringLiteral("new")); }});
+    EXPECT_FALSE(dialogs_.SaveFile(request));
     const auto answer = dialogs_.SaveFile(request);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->path, NativePathText(folder_.Native("new.txt")));
@@ -175,7 +184,9 @@ TEST_F(QtDialogsTest, FontKeepsWhatIsLeftAloneAndTakesEffectsAndColour) {
         {[&](QDialog& dialog) {
              EXPECT_EQ(dialog.windowTitle(), request.title);
              for (auto* effect : dialog.findChildren<QCheckBox*>()) {
-                 effect->setChecked(false);
+                 if (effect->isChecked()) {
+                     effect->click(); // setChecked would not tell the font dialog
+                 }
              }
              dialog.findChild<QPushButton*>(QStringLiteral("ColorButton"))->click();
              dialog.accept();
@@ -194,6 +205,14 @@ TEST(FontDialogTest, GivesTheFamilyAndSizeThatAreChosen) {
     dialog.findChild<QFontDialog*>()->setCurrentFont(font);
     EXPECT_EQ(dialog.Choice(), (FontChoice{QStringLiteral("DejaVu Serif"), 14, false, true, false,
                                            false, QColor(Qt::black)}));
+}
+
+TEST(FontDialogTest, BeginsWithTheUprightStyleWhateverTheFamilyCallsIt) {
+    for (const bool bold : {false, true}) {
+        const FontChoice begin{
+            QStringLiteral("DejaVu Serif"), 12, bold, false, false, true, QColor(255, 0, 0)};
+        EXPECT_EQ(FontDialog(begin).Choice(), begin) << bold;
+    }
 }
 
 TEST_F(QtDialogsTest, AboutAndPrinterShowAndCancel) {

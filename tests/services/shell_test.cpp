@@ -2,7 +2,7 @@
 
 #include "services/maker.h"
 #include "services/qt_text.h"
-#include "services/service_slot.h"
+#include "support/recording_shell.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -15,29 +15,6 @@
 namespace tavmoor {
 
 namespace {
-
-class RecordingShell final : public Shell {
-public:
-    ShellOutcome OpenDocument(std::string_view path) override { return Keep("document", path); }
-    ShellOutcome OpenAddress(std::string_view address) override { return Keep("address", address); }
-    ShellOutcome StartProgram(std::string_view path, const std::vector<std::string>&) override {
-        return Keep("program", path);
-    }
-    ShellOutcome OpenHelpFile(std::string_view path) override {
-        Keep("help", path);
-        return {showsHelp, ""};
-    }
-
-    bool showsHelp = true;
-    std::vector<std::string> calls;
-
-private:
-    ShellOutcome Keep(const char* kind, std::string_view what) {
-        calls.push_back(std::string(kind) + " " + std::string(what));
-        return {};
-    }
-    ScopedService<Shell> slot_{*this};
-};
 
 #ifndef _WIN32
 /// A search path with one folder, in which the test puts its programs.
@@ -79,7 +56,7 @@ private:
 } // namespace
 
 TEST(Shell, OpensOnlyWebAndMailAddressesAndEncodesThem) {
-    RecordingShell shell;
+    test::RecordingShell shell;
     EXPECT_TRUE(OpenWebPage(UpdateAddress).ok);
     EXPECT_TRUE(OpenWebPage("www.tavmoor.example/a b").ok);
     EXPECT_TRUE(WriteMail(MakerMailAddress, MakerMailSubject).ok);
@@ -101,7 +78,7 @@ TEST(Shell, ShowsTheStartPageWhereNothingShowsTheHelpFile) {
     const test::TemporaryFolder folder;
     const std::string page = "document " + folder.Document() + R"(\help\index.html)";
     const std::string chm = "help " + folder.Document() + R"(\help.chm)";
-    RecordingShell shell;
+    test::RecordingShell shell;
     OpenHelp(folder.Document());
     folder.Write("help.chm", "x");
     OpenHelp(folder.Document() + "\\");

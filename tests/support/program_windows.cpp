@@ -1,11 +1,9 @@
 #include "support/program_windows.h"
 
 #include "settings/settings_windows.h"
+#include "support/user_input.h"
 
 #include <QApplication>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QUrl>
 #include <QtTest/QTest>
 
 namespace tavmoor::test {
@@ -47,7 +45,7 @@ void ProgramWindows::Type(QWidget& window, const char* name, const QString& text
     control.setFocus();
     QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&control, Qt::Key_Delete);
-    QTest::keyClicks(&control, text);
+    TypeText(control, text);
     Settle();
 }
 
@@ -57,18 +55,9 @@ void ProgramWindows::PressKey(QWidget& control, Qt::Key key, Qt::KeyboardModifie
 }
 
 bool ProgramWindows::Drop(QWidget& control, const std::filesystem::path& path) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path.string()))});
-    const QPoint place = control.rect().center();
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&control, &enter);
-    if (!enter.isAccepted()) {
-        return false;
-    }
-    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&control, &drop);
+    const bool taken = DropPath(control, path);
     Settle();
-    return drop.isAccepted();
+    return taken;
 }
 
 void ProgramWindows::Settle() {

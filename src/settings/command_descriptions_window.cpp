@@ -1,0 +1,258 @@
+#include "settings/command_descriptions_window.h"
+
+#include "core/value_encoding.h"
+#include "services/color_pick.h"
+#include "services/color_value.h"
+#include "services/field_binding.h"
+#include "services/picture_button.h"
+#include "services/program_session.h"
+#include "services/qt_text.h"
+#include "services/shell_report.h"
+#include "services/text_boxes.h"
+#include "services/theme.h"
+#include "services/value_label.h"
+#include "settings/command_look_sample.h"
+#include "settings/field_pickers.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QShowEvent>
+
+#include <array>
+
+namespace tavmoor {
+
+namespace {
+
+constexpr WindowLook Form4Look{.name = WindowName::Form4,
+                               .objectName = "Form4",
+                               .title = u"Command descriptions",
+                               .dragArea = "Image1"};
+
+/// The labels with the titles of the commands.
+constexpr std::array CommandLabels{"Label93", "Label1", "Label2", "Label3", "Label4", "Label5"};
+
+constexpr std::string_view Section = "Opis komandi";
+
+/// The title and the text of one command after the other.
+constexpr std::array DescriptionBindings{
+    FieldBinding{"Text30", FieldForm::Text, Section, "C1"},
+    FieldBinding{"Text31", FieldForm::Text, Section, "O1"},
+    FieldBinding{"Text3", FieldForm::Text, Section, "C2"},
+    FieldBinding{"Text32", FieldForm::Text, Section, "O2"},
+    FieldBinding{"Text4", FieldForm::Text, Section, "C3"},
+    FieldBinding{"Text33", FieldForm::Text, Section, "O3"},
+    FieldBinding{"Text5", FieldForm::Text, Section, "C4"},
+    FieldBinding{"Text34", FieldForm::Text, Section, "O4"},
+    FieldBinding{"Text6", FieldForm::Text, Section, "C5"},
+    FieldBinding{"Text1", FieldForm::Text, Section, "O5"},
+    FieldBinding{"Text7", FieldForm::Text, Section, "C6"},
+    FieldBinding{"Text2", FieldForm::Text, Section, "O6"},
+};
+
+/// What the sample shows where the project says nothing.
+constexpr ColorValue UsualTextColor = 52479;
+constexpr ColorValue UsualBackColor = -2147483633; ///< the system's button face
+constexpr const char* UsualFont = "Ms Sans Serif";
+
+// Logical pixels.
+constexpr int WindowWidth = 900;
+constexpr int CommandWidth = 130;
+constexpr int TextHeight = 44; ///< two lines
+constexpr int TextMargin = 2;
+constexpr int RowGap = 5;
+constexpr int ExampleWidth = 300;
+
+QLabel* MakeLabel(const char* objectName, const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(QString::fromLatin1(objectName));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+Form4::Form4(ProgramContext context) : SkinnedWindow(context, Form4Look) {
+    SetHidesOnClose(true);
+    setFixedWidth(WindowWidth);
+    auto* layout = new QVBoxLayout(Body());
+    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
+    layout->setSpacing(theme::Gap);
+    layout->addWidget(MakeLabel("Label85",
+                                QStringLiteral("Add description for all commands, buttons that "
+                                               "will display when user place mouse over the "
+                                               "command..."),
+                                Body()));
+    layout->addLayout(MakeDescriptions());
+    auto* heading = MakeLabel("Label13", QStringLiteral("Menu/buttons properties"), Body());
+    heading->setFont(theme::HeadingFont());
+    layout->addWidget(heading);
+    layout->addLayout(MakeLook());
+    binder_ = new FieldBinder(*this, Document(), DescriptionBindings, Storing::AtOnce);
+}
+
+QLayout* Form4::MakeDescriptions() {
+    constexpr int TitleStretch = 2;
+    constexpr int TextStretch = 5;
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(theme::Gap);
+    grid->setVerticalSpacing(RowGap);
+    grid->setColumnMinimumWidth(0, CommandWidth);
+    grid->setColumnStretch(1, TitleStretch);
+    grid->setColumnStretch(2, TextStretch);
+    grid->addWidget(MakeLabel("Label91", QStringLiteral("Description title"), Body()), 0, 1);
+    grid->addWidget(MakeLabel("Label92", QStringLiteral("Detail description"), Body()), 0, 2);
+    for (std::size_t row = 0; row < CommandLabels.size(); ++row) {
+        AddRow(*grid, static_cast<int>(row));
+    }
+    return grid;
+}
+
+void Form4::AddRow(QGridLayout& grid, int row) {
+    const auto index = static_cast<std::size_t>(row);
+    const QString command = QStringLiteral("Command %1").arg(row + 1);
+    auto* head = new ValueLabel(CommandLabels.at(index), Body());
+    head->setProperty("look", QString());
+    head->setFixedWidth(CommandWidth);
+    head->SetFullText(command);
+    auto* title = new TextBox(DescriptionBindings.at(2 * index).control, Body());
+    title->setAccessibleName(command + QStringLiteral(": Description title"));
+    auto* text = new MemoBox(DescriptionBindings.at(2 * index + 1).control, Body());
+    text->setAccessibleName(command + QStringLiteral(": Detail description"));
+    text->document()->setDocumentMargin(TextMargin);
+    text->setFixedHeight(TextHeight);
+    grid.addWidget(head, row + 1, 0);
+    grid.addWidget(title, row + 1, 1);
+    grid.addWidget(text, row + 1, 2);
+}
+
+QLayout* Form4::MakeLook() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(theme::Margin);
+    row->addLayout(MakeLookButtons());
+    sample_ = new CommandLookSample(Body());
+    row->addWidget(sample_, 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(MakeExample());
+    right->addStretch(1);
+    right->addLayout(MakeCommands());
+    row->addLayout(right);
+    return row;
+}
+
+QLayout* Form4::MakeLookButtons() {
+    auto* column = new QVBoxLayout;
+    auto* fore = new PictureButton({"Command2", "palette", u"&Fore color"}, Body());
+    auto* back = new PictureButton({"Command3", "palette", u"&Background color"}, Body());
+    auto* font = new PictureButton({"Command4", "font", u"Fo&nt (name, size, effects)"}, Body());
+    connect(fore, &QAbstractButton::clicked, this, [this, fore] { ChooseColor(*fore, true); });
+    connect(back, &QAbstractButton::clicked, this, [this, back] { ChooseColor(*back, false); });
+    connect(font, &QAbstractButton::clicked, this, &Form4::ChooseFont);
+    for (auto* button : {fore, back, font}) {
+        column->addWidget(button);
+    }
+    column->addStretch(1);
+    return column;
+}
+
+QWidget* Form4::MakeExample() {
+    auto* box = new QGroupBox(QStringLiteral("Example"), Body());
+    box->setObjectName(QStringLiteral("Label8"));
+    box->setFixedWidth(ExampleWidth);
+    auto* inside = new QVBoxLayout(box);
+    auto* title = MakeLabel("Label6", QStringLiteral("Install Mozilla Firefox"), box);
+    QFont bold = theme::BaseFont();
+    bold.setBold(true);
+    title->setFont(bold);
+    inside->addWidget(title);
+    inside->addWidget(MakeLabel("Label7",
+                                QStringLiteral("This will install Mozilla Firefox browser on your "
+                                               "computer. Click the button to continue"),
+                                box));
+    return box;
+}
+
+QLayout* Form4::MakeCommands() {
+    auto* row = new QHBoxLayout;
+    auto* help = new PictureButton({"Command1", "help", u"&Help"}, Body());
+    auto* close =
+        new PictureButton({"Command43", "close", u"&Close", u"", ButtonLook::Primary}, Body());
+    connect(help, &QAbstractButton::clicked, this,
+            [this] { OpenHelpOrTell(this, Session().programFolder); });
+    connect(close, &QAbstractButton::clicked, this, &QWidget::close);
+    row->addStretch(1);
+    row->addWidget(help);
+    row->addWidget(close);
+    SetKeyButtons(close, close);
+    return row;
+}
+
+void Form4::showEvent(QShowEvent* event) {
+    // Not when the window system shows it again after minimising.
+    if (!event->spontaneous()) {
+        ShowDocument();
+    }
+    SkinnedWindow::showEvent(event);
+}
+
+void Form4::ShowDocument() {
+    binder_->Show();
+    ShowCommandTitles();
+    ShowLook();
+}
+
+void Form4::ShowCommandTitles() {
+    for (std::size_t row = 0; row < CommandLabels.size(); ++row) {
+        auto* head = findChild<ValueLabel*>(QString::fromLatin1(CommandLabels.at(row)));
+        head->SetFullText(ToQString(Document().IzvrsneKomande.Komande.at(row + 1).Opis));
+    }
+}
+
+void Form4::ShowLook() {
+    const CommandLook& stored = Document().IzvrsneKomande;
+    // Bold, italic and underlined are not part of a project; they stay as they were chosen.
+    CommandButtonLook look = sample_->Look();
+    look.textColor = ParseColorText(stored.Bojaslova).value_or(UsualTextColor);
+    look.backColor = ParseColorText(stored.Bojapozadinekomandi).value_or(UsualBackColor);
+    look.font.name = stored.Font.empty() ? UsualFont : stored.Font;
+    look.font.size = RoundSize(stored.Velicina);
+    sample_->SetLook(look);
+}
+
+void Form4::OnHideByUser() {
+    StoreLook();
+}
+
+void Form4::StoreLook() {
+    const CommandButtonLook& look = sample_->Look();
+    CommandLook& stored = Document().IzvrsneKomande;
+    stored.Bojaslova = ColorText(look.textColor);
+    stored.Bojapozadinekomandi = ColorText(look.backColor);
+    stored.Font = look.font.name;
+    stored.Velicina = look.font.size;
+}
+
+void Form4::ChooseColor(const PictureButton& button, bool ofText) {
+    const auto color = PickColor(Context(), ColorMenuPlace(button), *this);
+    if (!color) {
+        return;
+    }
+    CommandButtonLook look = sample_->Look();
+    (ofText ? look.textColor : look.backColor) = *color;
+    sample_->SetLook(look);
+}
+
+void Form4::ChooseFont() {
+    CommandButtonLook look = sample_->Look();
+    const auto picked = PickFont(*this, {look.font, look.textColor});
+    if (!picked || picked->font.name.empty()) {
+        return;
+    }
+    look.font = picked->font;
+    look.font.strikeOut = false;
+    sample_->SetLook(look);
+}
+
+} // namespace tavmoor

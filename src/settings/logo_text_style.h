@@ -1,0 +1,22 @@
+#pragma once
+
+#include "services/font_spec.h"
+
+#include <string>
+#include <string_view>
+
+namespace tavmoor {
+
+// The style and the effects of the logo text's font, which the project holds as words (`Stil` and
+// `Efekti`) and not as flags.
+
+/// "", "Bold" or "Italic"; there is no word for both, and italic wins.
+std::string StyleWord(const FontSpec& font);
+
+/// "", "StrikeThru", "Underline" or "StrikeThru, Underline".
+std::string EffectWords(const FontSpec& font);
+
+/// Sets the flags of a font from the two fields; other words set none.
+void TakeStyleWords(FontSpec& font, std::string_view style, std::string_view effects);
+
+} // namespace tavmoor

@@ -1,0 +1,116 @@
+#include "support/program_windows.h"
+
+#include "services/color_value.h"
+#include "services/theme.h"
+#include "services/value_label.h"
+#include "settings/main_window.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace tavmoor {
+
+/// A colour menu that gives its result as soon as it is seen.
+class QuickColorMenu final : public SkinnedWindow {
+public:
+    QuickColorMenu(ProgramContext context, std::string result)
+        : SkinnedWindow(context, {.name = WindowName::menu2, .dragArea = "", .chrome = NoChrome}),
+          result_(std::move(result)) {}
+
+protected:
+    void showEvent(QShowEvent* /*event*/) override { Session().MenuResult = result_; }
+
+private:
+    std::string result_;
+};
+
+class CommandDescriptions : public test::ProgramWindows {
+protected:
+    CommandDescriptions() { theme::Apply(*qApp); }
+
+    SkinnedWindow& Open() {
+        Click(static_cast<Form1&>(Main()).ShowPanel(PanelName::Frame4), "Command42");
+        return *Shown(WindowName::Form4);
+    }
+    void Pick(QWidget& window, const char* button, const std::string& result) {
+        windows.Register(WindowName::menu2,
+                         [this, result] { return new QuickColorMenu(Context(), result); });
+        Click(window, button);
+    }
+    static ColorValue Color(QLabel& label, QPalette::ColorRole role) {
+        label.ensurePolished();
+        return ToColorValue(label.palette().color(role));
+    }
+    CommandLook& Stored() { return Document().IzvrsneKomande; }
+};
+
+TEST_F(CommandDescriptions, StoresTextsAtOnceAndTheLookOnClosing) {
+    Stored().Komande[1].Opis = "Install";
+    Stored().Komande[6].Opis = "Mail";
+    Stored().Velicina = "11.5";
+    auto& window = Open();
+    EXPECT_EQ(windows.Main()->IsVisible(), false);
+    EXPECT_EQ(Find<ValueLabel>(window, "Label93").FullText(), QStringLiteral("Install"));
+    EXPECT_EQ(Find<ValueLabel>(window, "Label1").FullText(), QString());
+    EXPECT_EQ(Find<ValueLabel>(window, "Label5").FullText(), QStringLiteral("Mail"));
+
+    Type(window, "Text7", QStringLiteral("Write to us"));
+    PressKey(Find(window, "Text1"), Qt::Key_X);
+    EXPECT_EQ(Document().OpisKomandi[6].C, "Write to us");
+    EXPECT_EQ(Document().OpisKomandi[5].O, "x");
+
+    Pick(window, "Command2", "255");
+    Pick(window, "Command3", "65280");
+    Pick(window, "Command3", "999999999");
+    auto& sample = Find<QLabel>(window, "Label11");
+    EXPECT_EQ(Color(sample, QPalette::WindowText), 255);
+    EXPECT_EQ(Color(sample, QPalette::Window), 65280);
+    EXPECT_EQ(sample.font().pointSize(), 12);
+    EXPECT_EQ(Stored().Bojaslova, "-2147483630");
+    Click(window, "Command43");
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(windows.Main()->IsVisible());
+    EXPECT_EQ(Stored().Bojaslova, "255");
+    EXPECT_EQ(Stored().Bojapozadinekomandi, "65280");
+    EXPECT_EQ(Stored().Font, "Arial");
+    EXPECT_EQ(Stored().Velicina, "12");
+}
+
+TEST_F(CommandDescriptions, OpensAgainWithTheDocumentThatIsOpenNow) {
+    auto& first = Open();
+    Type(first, "Text30", QStringLiteral("old"));
+    first.close();
+    session.document = NewProjectDocument();
+    Stored().Komande[2].Opis = "New title";
+    Stored().Bojaslova.clear();
+    auto& window = Open();
+    EXPECT_EQ(&window, &first);
+    EXPECT_EQ(Find<QLineEdit>(window, "Text30").text(), QString());
+    EXPECT_EQ(Find<ValueLabel>(window, "Label1").FullText(), QStringLiteral("New title"));
+    EXPECT_EQ(Color(Find<QLabel>(window, "Label11"), QPalette::WindowText), 52479);
+}
+
+TEST_F(CommandDescriptions, AFontKeepsTheSamplesBottom) {
+    test::ScriptedDialogs dialogs;
+    auto& window = Open();
+    auto& sample = Find<QLabel>(window, "Label11");
+    const int bottom = sample.geometry().bottom();
+    const int height = sample.height();
+    dialogs.fonts.push_back(FontChoice{.family = QStringLiteral("Courier New"),
+                                       .points = 20.5,
+                                       .underline = true,
+                                       .strikeOut = true,
+                                       .color = QColor(Qt::red)});
+    Click(window, "Command4");
+    EXPECT_GT(sample.height(), height);
+    EXPECT_EQ(sample.geometry().bottom(), bottom);
+    EXPECT_TRUE(sample.font().underline());
+    EXPECT_FALSE(sample.font().strikeOut());
+    Click(window, "Command4"); // cancelled
+    window.close();
+    EXPECT_EQ(Stored().Font, "Courier New");
+    EXPECT_EQ(Stored().Velicina, "20");
+}
+
+} // namespace tavmoor
