@@ -41,6 +41,7 @@ public:
         ReadProject(session_.document, session_.programFolder, listener);
         session_.document.OsnovnaPodesavanja.GlavniDirektorijum =
             session_.programFolder + "\\Examples";
+        session_.recovery.Rest(session_.document); // nothing of it is kept for the user
     }
 
     void TakeAll() {
@@ -51,7 +52,7 @@ public:
             {PanelName::Frame9, "Frame9"}, {PanelName::Frame12, "Frame12"}};
         for (const auto& [panel, name] : Panels) {
             main.ShowPanel(panel);
-            Take(main, name);
+            Take(main, QString::fromLatin1(name));
         }
         constexpr std::pair<WindowName, const char*> Windows[] = {
             {WindowName::Form3, "Form3"},       {WindowName::Form4, "Form4"},
@@ -60,7 +61,7 @@ public:
             {WindowName::frmAbout, "frmAbout"}, {WindowName::menu2, "menu2"},
             {WindowName::PicPrev, "PicPrev"}};
         for (const auto& [window, name] : Windows) {
-            Take(windows_.Open(window), name);
+            Take(windows_.Open(window), QString::fromLatin1(name));
             windows_.Unload(window);
         }
         TakeMenus();
