@@ -69,9 +69,15 @@ void SetStyleColor(QWidget& control, const char* property, ColorValue color) {
             sheet += QStringLiteral("%1: %2;").arg(QLatin1String(name), given);
         }
     }
-    control.setStyleSheet(QString::fromLatin1(control.metaObject()->className())
-                              .replace(QLatin1String("::"), QLatin1String("--")) +
-                          QLatin1String(" {") + sheet + QLatin1String("}"));
+    sheet = QString::fromLatin1(control.metaObject()->className())
+                .replace(QLatin1String("::"), QLatin1String("--")) +
+            QLatin1String(" {") + sheet + QLatin1String("}");
+    if (control.styleSheet() != sheet) {
+        // A first style sheet of its own would give the control the application's font.
+        const QFont font = control.font();
+        control.setStyleSheet(sheet);
+        control.setFont(font);
+    }
 }
 
 void ShowText(QWidget& control, const QString& text) {

@@ -8,11 +8,12 @@
 #include "services/window_placing.h"
 #include "services/window_strips.h"
 
-#include <QAbstractButton>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -35,6 +36,12 @@ bool HasStrip(const WindowLook& look) {
 
 bool IsEnter(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Ticks and options are set by Space; Enter goes on from them.
+bool TakesEnter(const QAbstractButton* button) {
+    return button != nullptr && qobject_cast<const QCheckBox*>(button) == nullptr &&
+           qobject_cast<const QRadioButton*>(button) == nullptr;
 }
 
 } // namespace
@@ -180,7 +187,7 @@ void SkinnedWindow::keyPressEvent(QKeyEvent* event) {
     }
     if (IsEnter(event->key())) {
         auto* focused = qobject_cast<QAbstractButton*>(focusWidget());
-        auto* button = focused != nullptr ? focused : enterButton_;
+        auto* button = TakesEnter(focused) ? focused : enterButton_;
         if (button != nullptr && button->isEnabled()) {
             button->click();
         }

@@ -75,12 +75,7 @@ QLineEdit[refused="true"], QPlainTextEdit[refused="true"] { border: 2px solid @R
     padding: 1px 4px; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QListWidget:disabled {
     background: @WindowBack; color: @DisabledText; }
-<<<<<<< HEAD
 QListWidget:disabled { selection-background-color: @Border; selection-color: @QuietText; }
-QComboBox::drop-down { border: none; width: 20px; }
-QComboBox::down-arrow { image: url(:/artwork/chevron_down.svg); width: 12px; height: 12px; }
-=======
->>>>>>> w-info
 QLabel[look="value"] { background: @Surface; border: 1px solid @Border; border-radius: 4px;
     padding: 2px 5px; }
 QLabel[look="note"] { color: @QuietText; }

@@ -159,7 +159,7 @@ void Form3::ShowFolderSetting() {
     text1_->setText(chosen ? ToQString(folder) : QString());
 }
 
-void Form3::OnActivate() {
+void Form3::ShowAutoplayCheck() {
     // What the user ticked here and has not stored yet stays, unless the setting itself changed.
     const bool now = Session().settings.autoplayCheck;
     if (now != shownAutoplayCheck_) {
@@ -185,7 +185,10 @@ void Form3::OpenAutorunCheck() {
     bool& autoplayCheck = Session().settings.autoplayCheck;
     autoplayCheck = autoplayCheck || flags_.at(AutoplayFlag)->isChecked();
     shownAutoplayCheck_ = autoplayCheck;
-    Windows().Open(WindowName::Form13);
+    const SkinnedWindow& check = Windows().Open(WindowName::Form13);
+    // The system may leave this window inactive when that one goes.
+    connect(&check, &SkinnedWindow::Unloaded, this, &Form3::ShowAutoplayCheck,
+            Qt::UniqueConnection);
 }
 
 void Form3::Store() {

@@ -21,7 +21,7 @@ public:
 
 protected:
     void OnLoad() override;
-    void OnActivate() override;
+    void OnActivate() override { ShowAutoplayCheck(); }
 
 private:
     static constexpr std::size_t FlagCount = 4;
@@ -30,6 +30,7 @@ private:
     QWidget* MakeAutorunRow();
     QWidget* MakeButtons();
     void ShowFolderSetting();
+    void ShowAutoplayCheck();
     void ChooseFolder();
     void OpenAutorunCheck();
     void Store();
