@@ -109,6 +109,7 @@ void ProjectCommands::Reset() {
     ProgramSession& session = context_.session;
     ResetProjectSettings(session.document);
     ResetObjects(session.document);
+    session.VisualEditorOpened = false;
     // Made anew, it begins with the look of the commands that a new project has.
     context_.windows.Unload(WindowName::Form4);
     MainWindowCommands& main = *context_.windows.Main();
