@@ -99,6 +99,15 @@ std::string FreeCopyName(const std::string& folder, const std::string& projectNa
     return start + projectName + std::string(Extension);
 }
 
+/// A file that the user put into the folder under another name is none of the copies.
+bool IsCopyName(std::string_view name) {
+    constexpr std::string_view Pattern = "0000-00-00 00-00-00 ";
+    return name.size() > Pattern.size() &&
+           std::equal(Pattern.begin(), Pattern.end(), name.begin(), [](char wanted, char found) {
+               return wanted == '0' ? found >= '0' && found <= '9' : found == wanted;
+           });
+}
+
 struct Copy {
     fs::file_time_type written;
     std::string path;
@@ -113,6 +122,9 @@ std::vector<Copy> CopiesByAge() {
         return copies;
     }
     for (const std::string& name : FileNamesIn(*folder, Extension)) {
+        if (!IsCopyName(name)) {
+            continue;
+        }
         const std::string path = WithBackslash(*folder) + name;
         std::error_code error;
         const auto written = fs::last_write_time(NativePath(path), error);
@@ -191,6 +203,9 @@ std::optional<std::string> NewestRecoveryCopy(fs::file_time_type since) {
 }
 
 void RecoveryCopy::Rest(const ProjectDocument& document) {
+    if (SamePath(path_, document.Working.ProjectPath)) {
+        path_.clear(); // saved over: it is the project's own file now
+    }
     DeleteCopy();
     textAtRest_ = ProjectText(document);
 }

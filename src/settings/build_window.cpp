@@ -175,7 +175,7 @@ void Form8::Build() {
     EnsureBuildFolder();
     BuildRequest request;
     request.name = FromQString(name_->text());
-    request.buildFolder = BuildFolder();
+    request.buildFolder = CompressFolder(Session().settings);
     request.startAfterBuild = start_->isChecked();
     WindowBuildEvents events(Controls());
     events.ResetProgress();

@@ -93,7 +93,11 @@ void ProjectCommands::OpenRecovered(const std::string& path) {
     const ProfileFile file = ProfileFile::Load(path);
     KeepUnsaved();
     Reset();
-    dialog_.FileName.clear(); // a save must not take the copy for the project's own file
+    // A save must not take the copy for the project's own file, nor begin in its folder.
+    dialog_.FileName.clear();
+    if (IsInRecoveryFolder(session.document.Working.LastProjectFolder)) {
+        session.document.Working.LastProjectFolder.clear();
+    }
     ProjectListener listener(context_, owner_);
     ReadProjectFrom(file, session.document, session.programFolder, listener);
     session.document.Working.Recent = recent;
@@ -105,6 +109,7 @@ void ProjectCommands::Reset() {
     ProgramSession& session = context_.session;
     ResetProjectSettings(session.document);
     ResetObjects(session.document);
+    session.VisualEditorOpened = false;
     // Made anew, it begins with the look of the commands that a new project has.
     context_.windows.Unload(WindowName::Form4);
     MainWindowCommands& main = *context_.windows.Main();

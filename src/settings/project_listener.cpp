@@ -3,6 +3,7 @@
 #include "services/message_box.h"
 #include "services/qt_text.h"
 #include "services/session_fonts.h"
+#include "settings/template_capabilities.h"
 
 #include <QCoreApplication>
 
@@ -21,7 +22,9 @@ void ProjectListener::LetEventsRun() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void ProjectListener::ApplyTemplateCapabilities() {}
+void ProjectListener::ApplyTemplateCapabilities() {
+    tavmoor::ApplyTemplateCapabilities(context_);
+}
 
 void ProjectListener::ProjectTitleChanged(std::string_view /*path*/) {
     context_.windows.Main()->ShowDocument();

@@ -63,6 +63,7 @@ TEST_F(RecoveryFolderTest, TheNewestTwentyStayUnderDateTimeAndName) {
     }
     EXPECT_EQ(titles.find(" 3 "), std::string::npos) << "the oldest go";
     EXPECT_NE(titles.find(" 4 "), std::string::npos);
+    folder_.Write("tavmoor/recovery/the user's own.tavp", "");
     EXPECT_EQ(NewestRecoveryCopy(fs::file_time_type::min()), last);
     EXPECT_TRUE(IsInRecoveryFolder(last));
     EXPECT_FALSE(IsInRecoveryFolder(folder_.Document("My disc.tavp")));
@@ -110,6 +111,11 @@ TEST_F(RecoveryFolderTest, AProjectHasOneCopyWhileItDiffersFromItsFile) {
     recovery.Adopt(left, *document_);
     EXPECT_EQ(NewestRecoveryCopy(before), left) << "a second crash offers it again";
     EXPECT_EQ(recovery.KeepAndLeave(*document_), left) << "it was never saved";
+
+    recovery.Adopt(left, *document_);
+    document_->Working.ProjectPath = left;
+    recovery.Rest(*document_);
+    EXPECT_TRUE(fs::exists(NativePath(left))) << "the user saved over it";
 }
 
 TEST_F(RecoveryFolderTest, TheMarkerTellsACrashFromAnEndAndFromAnotherRun) {

@@ -41,6 +41,7 @@ public:
         ReadProject(session_.document, session_.programFolder, listener);
         session_.document.OsnovnaPodesavanja.GlavniDirektorijum =
             session_.programFolder + "\\Examples";
+        session_.recovery.Rest(session_.document); // nothing of it is kept for the user
     }
 
     void TakeAll() {

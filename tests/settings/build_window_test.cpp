@@ -1,8 +1,8 @@
 #include "support/build_project.h"
 #include "support/program_windows.h"
+#include "support/recording_shell.h"
 
 #include "core/runtime_error.h"
-#include "services/shell.h"
 #include "services/status_label.h"
 #include "settings/build_window.h"
 
@@ -13,28 +13,6 @@
 #include <QTimer>
 
 namespace tavmoor {
-
-namespace {
-
-/// A shell that starts nothing.
-class IdleShell final : public Shell {
-public:
-    std::vector<std::string> started;
-
-    ShellOutcome OpenDocument(std::string_view /*path*/) override { return {}; }
-    ShellOutcome OpenAddress(std::string_view /*address*/) override { return {}; }
-    ShellOutcome StartProgram(std::string_view path,
-                              const std::vector<std::string>& /*arguments*/) override {
-        started.emplace_back(path);
-        return {false, "Wine is missing"};
-    }
-    ShellOutcome OpenHelpFile(std::string_view /*path*/) override { return {}; }
-
-private:
-    ScopedService<Shell> slot_{*this};
-};
-
-} // namespace
 
 class BuildWindow : public test::ProgramWindows {
 protected:
@@ -111,7 +89,8 @@ TEST_F(BuildWindow, AMissingFolderLeadsBackToItsField) {
 TEST_F(BuildWindow, BuildsStaysOpenMeanwhileAndTellsThatTheStartFailed) {
     auto& form = Open();
     Find<QCheckBox>(form, "Check1").setChecked(true);
-    IdleShell shell;
+    test::RecordingShell shell;
+    shell.objection = "Wine is missing";
     test::ScriptedBoxes boxes;
     QString meanwhile;
     bool refused = false;
@@ -131,12 +110,29 @@ TEST_F(BuildWindow, BuildsStaysOpenMeanwhileAndTellsThatTheStartFailed) {
     EXPECT_EQ(Status(form), QStringLiteral("Completed..."));
     EXPECT_TRUE(Find<QProgressBar>(form, "Progress").format().endsWith(QStringLiteral(", 100 %")));
     EXPECT_EQ(Find<StatusLabel>(form, "Note").Text(), QString()) << "all was placed";
-    EXPECT_EQ(shell.started,
-              std::vector<std::string>{project_.folder.Document("disc/Holiday.exe")});
+    EXPECT_EQ(shell.calls,
+              std::vector<std::string>{"program " + project_.folder.Document("disc/Holiday.exe")});
     ASSERT_EQ(boxes.shown.size(), 1U);
     EXPECT_EQ(boxes.shown[0].text, QStringLiteral("Wine is missing"));
     EXPECT_TRUE(Find(form, "Command1").isEnabled());
     EXPECT_TRUE(form.Unload());
+}
+
+TEST_F(BuildWindow, ProgressIsToldInBytesAndPercent) {
+    QProgressBar bar;
+    BuildControls controls;
+    controls.progress = &bar;
+    WindowBuildEvents events(controls);
+    events.ResetProgress();
+    EXPECT_EQ(bar.format(), QString());
+    events.PackageProgress(12'897'485, 50'331'648);
+    EXPECT_EQ(bar.format(), QStringLiteral("12.3 MB of 48.0 MB, 25 %"));
+    EXPECT_EQ(bar.value() * 1000 / bar.maximum(), 256);
+    const std::uint64_t large = 5'000'000'000;
+    events.PackageProgress(large, large);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    events.PackageProgress(0, 0);
+    EXPECT_EQ(bar.format(), QStringLiteral("0.0 KB of 0.0 KB, 100 %"));
 }
 
 TEST_F(BuildWindow, AfterAFailureTheNextBuildCanBegin) {

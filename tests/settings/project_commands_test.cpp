@@ -190,6 +190,7 @@ TEST_F(ProjectCommandsTest, ACopyIsOfferedOpenedAsUnsavedAndGoneOnceSaved) {
     EXPECT_EQ(Working().ProjectPath, "") << "never saved over the copy";
     dialogs.AnswerFile(folder.Document("kept.tavp"));
     hub.Serve(MenuAction::SaveProject);
+    EXPECT_EQ(dialogs.saved.at(0).folder, NativeText("program"));
     EXPECT_EQ(folder.Read("kept.tavp"), ProjectText(Document()));
     EXPECT_EQ(Recovered(), "");
 }
