@@ -6,7 +6,7 @@
 #include "services/autorun_check.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"
-#include "settings/settings_windows.h"
+#include "settings/settings_window_list.h"
 
 namespace tavmoor {
 

@@ -2,7 +2,10 @@
 """Drives the built program by keys and clicks on a screen of its own, from its start to a built
 disc folder, and reads the result back with tavmoor-cli.
 
-usage: build_a_disc.py PROGRAM_FOLDER CONTROL_MAP"""
+usage: build_a_disc.py PROGRAM_FOLDER CONTROL_MAP AUTORUN_PROGRAMS
+
+AUTORUN_PROGRAMS is the program folder that has the autorun programs of the templates, which are
+built for Windows: another build than that of the program."""
 import json
 import os
 import shutil
@@ -173,15 +176,23 @@ def check(cli, disc, project):
             fail(f"the configuration lacks {line!r}")
 
 
+def copy_program(program_folder, autorun_programs, program):
+    """A copy, since the program keeps its settings beside itself."""
+    shutil.copytree(program_folder, program)
+    if os.path.exists(os.path.join(program, "tavmoor.ini")):
+        os.remove(os.path.join(program, "tavmoor.ini"))
+    for template in os.listdir(os.path.join(program, "Templates")):
+        name = os.path.join("Templates", template, "template.tavexe")
+        if not os.path.exists(os.path.join(program, name)):
+            shutil.copy(os.path.join(autorun_programs, name), os.path.join(program, name))
+
+
 def main():
-    program_folder, control_map = sys.argv[1:]
+    program_folder, control_map, autorun_programs = sys.argv[1:]
     controls = read_controls(control_map, program_folder)
     with tempfile.TemporaryDirectory(prefix="tavmoor-end-to-end-") as folder:
-        # A copy, since the program keeps its settings beside itself.
         program = os.path.join(folder, "program")
-        shutil.copytree(program_folder, program)
-        if os.path.exists(os.path.join(program, "tavmoor.ini")):
-            os.remove(os.path.join(program, "tavmoor.ini"))
+        copy_program(program_folder, autorun_programs, program)
         disc = os.path.join(folder, "disc")
         os.mkdir(disc)
         with open(os.path.join(disc, "readme.txt"), "w", encoding="ascii") as file:

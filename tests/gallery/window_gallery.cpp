@@ -6,7 +6,7 @@
 #include "services/theme.h"
 #include "settings/main_menu.h"
 #include "settings/main_window.h"
-#include "settings/settings_windows.h"
+#include "settings/settings_window_list.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "services/service_windows.h"
+#include "services/service_window_list.h"
 
 #include "services/about_window.h"
 #include "services/autorun_check_window.h"
