@@ -8,6 +8,15 @@ else()
     set(TAVMOOR_WINDOWS_OF_PROGRAM ON)
 endif()
 
+option(TAVMOOR_PRECOMPILE "Read Qt's headers once for all sources of a target" ON)
+
+# Sources still include all that they use: the lint preset compiles each on its own.
+function(tavmoor_precompile_qt target)
+    if(TAVMOOR_PRECOMPILE)
+        target_precompile_headers(${target} PRIVATE <QtWidgets/QtWidgets> <map> <string> <vector>)
+    endif()
+endfunction()
+
 # A layer of windows: what tavmoor_layer does, with Qt's code generators.
 function(tavmoor_window_layer name)
     tavmoor_layer(${name} ${ARGN})
@@ -15,4 +24,5 @@ function(tavmoor_window_layer name)
     target_compile_definitions(tavmoor_${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
                                                       QT_NO_CAST_TO_ASCII)
     target_link_libraries(tavmoor_${name} PUBLIC Qt6::Widgets)
+    tavmoor_precompile_qt(tavmoor_${name})
 endfunction()

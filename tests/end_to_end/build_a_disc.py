@@ -202,7 +202,8 @@ def main():
         try:
             environment = {**os.environ, "DISPLAY": screen.name, "QT_QPA_PLATFORM": "xcb",
                            "HOME": folder, "XDG_CONFIG_HOME": folder, "XDG_DATA_HOME": folder,
-                           "LC_ALL": "C.UTF-8"}
+                           "LC_ALL": "C.UTF-8", "LSAN_OPTIONS": "suppressions=" + os.path.join(
+                               os.path.dirname(os.path.abspath(__file__)), "foreign_leaks.txt")}
             running = subprocess.Popen([os.path.join(program, "tavmoor")], env=environment,
                                        cwd=folder)
             drive(Hands(screen, controls), disc, project)

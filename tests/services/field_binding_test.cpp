@@ -92,6 +92,7 @@ TEST_F(BoundFields, ShowsEveryFormAndStoresOnlyWhatTheUserChanges) {
     EXPECT_EQ(document.Zvuk.Ponovi, 700);
     EXPECT_EQ(document.IzvrsneKomande.Komande[3].Vrsta, "Something else");
 
+    QTest::keyClick(&title, Qt::Key_End);
     QTest::keyClicks(&title, QStringLiteral("!"));
     QTest::keyClicks(&description, QStringLiteral("0"));
     closes.click();

@@ -201,7 +201,7 @@ TEST_F(PictureLoaderTest, DrawsAnEmfOfVeryManyWildPointsInBoundedTime) {
     constexpr int Count = 30'000;
     constexpr int Side = 3900;
     std::string points;
-    for (int i = 0; i < Count; ++i) {
+    for (std::int64_t i = 0; i < Count; ++i) {
         points += Words({i * 7919 % Side, i * 104'729 % Side});
     }
     QElapsedTimer clock;
