@@ -22,28 +22,25 @@ int loopsRunning = 0;
 /// What is to be deleted when the outermost loop has ended.
 std::vector<QPointer<QObject>> deletedAfterWaits;
 
-/// Counts a loop for as long as it runs.
-class RunningLoop {
-public:
-    RunningLoop() { ++loopsRunning; }
-    RunningLoop(const RunningLoop&) = delete;
-    RunningLoop& operator=(const RunningLoop&) = delete;
-    ~RunningLoop() {
-        if (--loopsRunning > 0) {
-            return;
-        }
-        for (const auto& object : std::exchange(deletedAfterWaits, {})) {
-            if (object) {
-                object->deleteLater();
-            }
-        }
-    }
-};
-
 /// How often a condition is looked at while no event comes.
 constexpr std::chrono::milliseconds Tick{10};
 
 } // namespace
+
+RunningLoop::RunningLoop() {
+    ++loopsRunning;
+}
+
+RunningLoop::~RunningLoop() {
+    if (--loopsRunning > 0) {
+        return;
+    }
+    for (const auto& object : std::exchange(deletedAfterWaits, {})) {
+        if (object) {
+            object->deleteLater();
+        }
+    }
+}
 
 bool WaitUntil(const std::function<bool()>& done, const QObject* owner) {
     const RunningLoop running;
