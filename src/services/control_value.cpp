@@ -34,6 +34,12 @@ double NumberOf(ConstValueRef value) {
         value);
 }
 
+/// The same as a whole number; texts may name larger ones.
+std::int32_t WholeNumberOf(ConstValueRef value) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(qBound<double>(Limits::min(), NumberOf(value), Limits::max()));
+}
+
 QString TextOf(ConstValueRef value) {
     const auto* const* text = std::get_if<const std::string*>(&value);
     return text != nullptr ? ToQString(**text) : ToQString(FormatNumber(NumberOf(value)));
@@ -154,7 +160,7 @@ void ShowOption(QRadioButton& button, bool chosen) {
 } // namespace
 
 void ShowInControl(QWidget& control, const FieldBinding& row, ConstValueRef value) {
-    const auto number = static_cast<std::int32_t>(NumberOf(value));
+    const std::int32_t number = WholeNumberOf(value);
     switch (row.form) {
     case FieldForm::Text:
         ShowText(control, TextOf(value));

@@ -2,6 +2,7 @@
 #include "services/native_path_text.h"
 #include "services/service_slot.h"
 #include "services/sound_output.h"
+#include "services/wait_loop.h"
 
 #include <QAudioOutput>
 #include <QCoreApplication>
@@ -40,6 +41,7 @@ QString WaitForFile(const QPointer<QMediaPlayer>& player) {
     QObject::connect(player, &QObject::destroyed, &loop, &QEventLoop::quit);
     QTimer::singleShot(LongestOpening, &loop, &QEventLoop::quit);
     if (!IsSettled(player->mediaStatus()) && player->error() == QMediaPlayer::NoError) {
+        const RunningLoop running;
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
     if (player.isNull()) {

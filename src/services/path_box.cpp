@@ -4,6 +4,7 @@
 #include "services/qt_text.h"
 #include "services/refusal_mark.h"
 
+#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -24,13 +25,26 @@ std::optional<QString> DroppedPath(const QMimeData& data, PathKind kind) {
     for (const QUrl& url : data.urls()) {
         const QFileInfo file(url.toLocalFile());
         if (url.isLocalFile() && file.isDir() == (kind == PathKind::Folder)) {
-            if (const auto path = FindDocumentPath(file.absoluteFilePath().toStdString())) {
+            // Some sources end the address of a folder in a slash.
+            const QString native = QDir::cleanPath(file.absoluteFilePath());
+            if (const auto path = FindDocumentPath(native.toStdString())) {
                 return ToQString(*path);
             }
         }
     }
     return std::nullopt;
 }
+
+namespace {
+
+/// Takes what is dropped as a copy, whichever action the keys ask for: a source that is told of a
+/// move would delete its file.
+void AcceptCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+} // namespace
 
 PathBox::PathBox(const char* objectName, PathKind kind, QWidget* parent)
     : TextBox(objectName, parent), kind_(kind) {
@@ -58,7 +72,7 @@ void PathBox::TakeOver(const QString& path) {
 
 void PathBox::dragEnterEvent(QDragEnterEvent* event) {
     if (DroppedPath(*event->mimeData(), kind_)) {
-        event->acceptProposedAction();
+        AcceptCopy(*event);
     } else {
         TextBox::dragEnterEvent(event);
     }
@@ -66,7 +80,7 @@ void PathBox::dragEnterEvent(QDragEnterEvent* event) {
 
 void PathBox::dragMoveEvent(QDragMoveEvent* event) {
     if (DroppedPath(*event->mimeData(), kind_)) {
-        event->acceptProposedAction();
+        AcceptCopy(*event);
     } else {
         TextBox::dragMoveEvent(event);
     }
@@ -74,7 +88,7 @@ void PathBox::dragMoveEvent(QDragMoveEvent* event) {
 
 void PathBox::dropEvent(QDropEvent* event) {
     if (const auto path = DroppedPath(*event->mimeData(), kind_)) {
-        event->acceptProposedAction();
+        AcceptCopy(*event);
         TakeOver(*path);
     } else {
         TextBox::dropEvent(event);
@@ -97,7 +111,7 @@ bool PathDrop::eventFilter(QObject* watched, QEvent* event) {
     if (!path) {
         return false;
     }
-    drop->acceptProposedAction();
+    AcceptCopy(*drop);
     if (type == QEvent::Drop) {
         Q_EMIT Dropped(*path);
     }

@@ -106,7 +106,7 @@ bool SkinnedWindow::Unload() {
         Windows().Main()->SetVisible(true);
     }
     Q_EMIT Unloaded();
-    deleteLater();
+    DeleteAfterWaits(*this);
     return true;
 }
 

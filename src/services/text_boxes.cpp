@@ -52,7 +52,10 @@ MemoBox::MemoBox(const char* objectName, QWidget* parent) : QPlainTextEdit(paren
     setObjectName(QString::fromLatin1(objectName));
     setTabChangesFocus(true);
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
-        findChild<RefusalMark*>()->Clear();
+        // Input that was refused, and a composition, come by here without a change.
+        if (toPlainText() != refusedBeside_) {
+            findChild<RefusalMark*>()->Clear();
+        }
         if (!loading_) {
             Q_EMIT Edited();
         }
@@ -76,6 +79,7 @@ void MemoBox::SetProjectText(const QString& text) {
 bool MemoBox::Refuses(const QString& text) {
     const QString objection = CodePageObjection(text);
     if (!objection.isEmpty()) {
+        refusedBeside_ = toPlainText();
         findChild<RefusalMark*>()->Set(objection);
     }
     return !objection.isEmpty();

@@ -47,6 +47,7 @@ protected:
 
 private:
     bool Refuses(const QString& text);
+    QString refusedBeside_; ///< the field's text when it last refused an input
     bool loading_ = false;
 };
 

@@ -24,6 +24,19 @@ void WaitFor(std::chrono::milliseconds time);
 /// Lets the pending events run once.
 void LetEventsRun();
 
+/// Marks a loop of one's own for DeleteAfterWaits, for as long as it runs.
+class RunningLoop {
+public:
+    RunningLoop();
+    RunningLoop(const RunningLoop&) = delete;
+    RunningLoop& operator=(const RunningLoop&) = delete;
+    ~RunningLoop();
+};
+
+/// Deletes an object once control is back in the event loop, below every loop of these that runs
+/// now: a plain deleteLater may take the object away from code that waits in one of its handlers.
+void DeleteAfterWaits(QObject& object);
+
 /// Ends all loops, and each later one at once; called when the main window unloads.
 void EndWaitLoops();
 /// Allows loops again; called when a main window loads.

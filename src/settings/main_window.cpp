@@ -18,7 +18,7 @@
 #include "settings/main_window_panels.h"
 #include "settings/picture_preview_window.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -285,6 +285,10 @@ void Form1::OpenMenu(MenuSide side) {
 }
 
 void Form1::ServeStoredAction() {
+    // A dialog that was opened since the entry was chosen is to be ended first.
+    if (QApplication::activeModalWidget() != nullptr) {
+        return;
+    }
     const auto action = static_cast<MenuAction>(Session().menuAction);
     Session().menuAction = 0;
     Serve(action);

@@ -196,7 +196,8 @@ void Form3::Store() {
     for (std::size_t i = 0; i < FlagCount; ++i) {
         settings.*FlagFields.at(i).flag = flags_.at(i)->isChecked();
     }
-    const std::string folder = FromQString(text1_->text());
+    // A key that presses the button leaves the field as it was typed.
+    const std::string folder = FromQString(DocumentFormOf(text1_->text()).value_or(QString()));
     settings.buildFolder =
         option2_->isChecked() && !folder.empty() ? folder : std::string(DefaultCompressFolder);
     Unload();

@@ -123,6 +123,16 @@ TEST_F(BoundFields, RefusesWhatTheCodePageCannotHoldAndSaysWhy) {
     EXPECT_TRUE(description.property("refused").toBool());
     EXPECT_EQ(document.OsnovniPodaci.Tasknaslov, "ok!");
     EXPECT_EQ(document.OsnovniPodaci.GlavniOpis, "");
+
+    QTest::keyClicks(&description, QStringLiteral("a"));
+    EXPECT_FALSE(description.property("refused").toBool());
+    QInputMethodEvent composing(QStringLiteral("ri"), {});
+    QApplication::sendEvent(&description, &composing);
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("日"));
+    QApplication::sendEvent(&description, &composed);
+    EXPECT_EQ(description.toPlainText(), QStringLiteral("a"));
+    EXPECT_TRUE(description.property("refused").toBool()) << "the end of the composition";
 }
 
 #ifndef _WIN32
@@ -143,6 +153,17 @@ TEST_F(BoundFields, NativePathsAreTakenOverInDocumentForm) {
     EXPECT_FALSE(test::DropPath(path, folder.Native("file"))) << "a file is no folder";
     EXPECT_TRUE(test::DropPath(path, folder.Native()));
     EXPECT_EQ(document.CdFolder(), folder.Document());
+
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Native().string() + '/'))});
+    const auto actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter({1, 1}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QApplication::sendEvent(&path, &enter);
+    QDropEvent drop({1, 1}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    path.clear();
+    QApplication::sendEvent(&path, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "after a move the source deletes its file";
+    EXPECT_EQ(path.text().toStdString(), folder.Document());
 }
 #endif
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest/QTest>
@@ -125,6 +126,19 @@ TEST_F(WindowGround, WaitLoopsNestAndEndWithTheirWindowOrTheProgram) {
     auto& second = windows.Open(WindowName::Form9);
     QTimer::singleShot(0, &second, [] { EndWaitLoops(); });
     EXPECT_FALSE(WaitUntil([] { return false; }, &second));
+}
+
+TEST_F(WindowGround, AWindowOutlivesTheCodeThatWaitsInIt) {
+    const QPointer<SkinnedWindow> window(&windows.Open(WindowName::Form9));
+    bool outlivedTheWait = false;
+    QTimer::singleShot(0, window, [&] {
+        QTimer::singleShot(0, window, [&] { window->Unload(); });
+        WaitFor(std::chrono::milliseconds(20));
+        LetEventsRun();
+        outlivedTheWait = !window.isNull();
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
+    EXPECT_TRUE(outlivedTheWait);
 }
 
 TEST_F(WindowGround, ButtonsOfWindowsThatDoNotStandSaySo) {
