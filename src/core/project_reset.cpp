@@ -25,6 +25,7 @@ void ResetProjectSettings(ProjectDocument& document) {
     ResetFields(document, [](const FieldSpec&) { return true; });
     document.Working.listafajlova.clear();
     document.Working.ProjectPath.clear();
+    document.Working.TemplateName.clear();
 }
 
 void ResetObjects(ProjectDocument& document) {

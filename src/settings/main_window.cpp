@@ -42,15 +42,24 @@ constexpr int HelpTop = 7440;  // twips
 
 constexpr std::chrono::milliseconds MenuInterval{400};
 
+/// Of a window that has one.
+QWidget& LastTabStop(QWidget& window) {
+    QWidget* last = window.previousInFocusChain();
+    while ((last->focusPolicy() & Qt::TabFocus) == 0) {
+        last = last->previousInFocusChain();
+    }
+    return *last;
+}
+
 } // namespace
 
 Form1::Form1(ProgramContext context)
     : SkinnedWindow(context, Form1Look), checks_(context, *this), commands_(context, *this),
       keeper_(context.session, this) {
     setFixedSize(WindowSize);
+    MakeTopRow();
     column_ = new NavigationColumn(this);
     column_->move(ColumnPlace);
-    MakeTopRow();
     MakeBottomRow();
     player_ = new MP3Play(this);
     player_->setObjectName(QStringLiteral("MP3Play1"));
@@ -93,10 +102,10 @@ void Form1::MakeTopRow() {
 }
 
 void Form1::MakeBottomRow() {
-    auto* help = new PictureButton(
-        {"Command9", "help", u"&Help", u"Help and step by step instructions"}, this);
-    help->setGeometry({{PixelsOf(HelpLeft), PixelsOf(HelpTop)}, HelpSize});
-    connect(help, &QAbstractButton::clicked, this, [this] { Serve(MenuAction::Help); });
+    help_ = new PictureButton({"Command9", "help", u"&Help", u"Help and step by step instructions"},
+                              this);
+    help_->setGeometry({{PixelsOf(HelpLeft), PixelsOf(HelpTop)}, HelpSize});
+    connect(help_, &QAbstractButton::clicked, this, [this] { Serve(MenuAction::Help); });
     hint_ = new HintLine(this);
     hint_->setGeometry(HintPlace);
     hint_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -108,6 +117,7 @@ void Form1::OnLoad() {
     ShowPanel(PanelName::Frame2);
     ShowDocument();
     hint_->Restore();
+    column_->Button(NavigationStep::MainSettings).setFocus();
     timer_.start(MenuInterval);
     keeper_.Start();
     // Once the window is seen.
@@ -203,6 +213,8 @@ Panel& Form1::ShowPanel(PanelName name) {
         panel = MakePanel(name, Context(), *player_, this);
         panel->setGeometry(PanelPlace);
         hint_->Watch(*panel);
+        // A new panel is the last in the tab order; the help stands below it.
+        setTabOrder(&LastTabStop(*this), help_);
     }
     panel->ShowDocument();
     panel->show();

@@ -72,6 +72,7 @@ private:
     QLabel* title_ = nullptr;
     PictureButton* fileMenu_ = nullptr;
     PictureButton* programMenu_ = nullptr;
+    PictureButton* help_ = nullptr;
     std::array<Panel*, PanelCount> panels_{};
     MP3Play* player_ = nullptr;
     QTimer timer_;

@@ -34,6 +34,8 @@ PictureField::PictureField(const PictureFieldDescription& description, ProgramCo
     layout->addWidget(browse);
     layout->addWidget(remove);
     setFocusProxy(browse);
+    // The mnemonic of a label leads only to what takes the focus.
+    setFocusPolicy(browse->focusPolicy());
 }
 
 void PictureField::Browse() {

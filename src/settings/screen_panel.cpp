@@ -290,7 +290,11 @@ void ScreenPanel::CheckTime() {
         timeUnit_->setText(QStringLiteral("seconds(60 is maximum)"));
     }
     Screen().Vreme = time.text;
+    const bool replaced = FromQString(time_->text()) != time.text;
     ShowDocument();
+    if (replaced) {
+        time_->end(false); // typing and deleting go on behind the number
+    }
 }
 
 } // namespace tavmoor

@@ -10,6 +10,7 @@ TEST(ProjectReset, GivesNewProjectValuesAndKeepsTheRest) {
     d.ObjTekst[100].TekstBoxCaption = d.Video[0].VideoFajl = "outside of the files";
     d.Working.ProjectPath = d.Working.Recent = "Z:\\p.tavp";
     d.Working.listafajlova = {"Z:\\a"};
+    d.Working.TemplateName = "Nexus";
     ResetProjectSettings(d);
     ResetObjects(d);
     fields.Expect(
@@ -29,6 +30,7 @@ TEST(ProjectReset, GivesNewProjectValuesAndKeepsTheRest) {
     EXPECT_EQ(d.ObjTekst[100].TekstBoxCaption + d.Video[0].VideoFajl, "");
     EXPECT_FALSE(d.NapredniSabloni.Dugme[7].DugmeExists);
     EXPECT_EQ(d.Working.ProjectPath, "");
+    EXPECT_EQ(d.Working.TemplateName, "");
     EXPECT_EQ(d.Working.Recent, "Z:\\p.tavp");
     EXPECT_TRUE(d.Working.listafajlova.empty());
 }

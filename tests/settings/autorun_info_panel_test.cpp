@@ -137,6 +137,9 @@ TEST_F(AutorunInfoPanel, TheLogoPictureIsChosenDroppedAndRemoved) {
     dialogs.AnswerFile(folder.Document("logo.png"));
     dialogs.AnswerFile("");
     auto& panel = Open();
+    Settle(); // keys of mnemonics go to the active window
+    PressKey(panel, Qt::Key_O, Qt::AltModifier);
+    EXPECT_EQ(panel.window()->focusWidget(), &Find(panel, "Command12"));
     Click(panel, "Command12");
     EXPECT_EQ(dialogs.opened[0].title, QStringLiteral("Choose picture..."));
     EXPECT_EQ(dialogs.opened[0].filter,

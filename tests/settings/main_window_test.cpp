@@ -1,10 +1,23 @@
 #include "support/program_windows.h"
 
-#include "settings/menu_action.h"
+#include "settings/main_window.h"
 
 namespace tavmoor {
 
-class MainWindow : public test::ProgramWindows {};
+class MainWindow : public test::ProgramWindows {
+protected:
+    /// The object names of what the tab key reaches, in its order.
+    static QStringList TabStops(QWidget& window) {
+        QStringList names;
+        for (QWidget* next = window.nextInFocusChain(); next != &window;
+             next = next->nextInFocusChain()) {
+            if (next->isVisible() && (next->focusPolicy() & Qt::TabFocus) != 0) {
+                names << next->objectName();
+            }
+        }
+        return names;
+    }
+};
 
 TEST_F(MainWindow, StepsWithoutATemplateOfferTheTemplateWindowAndGoNoFurther) {
     auto& form = Main();
@@ -17,6 +30,22 @@ TEST_F(MainWindow, StepsWithoutATemplateOfferTheTemplateWindowAndGoNoFurther) {
                              "environment.\nDo you want to do it now?"));
     EXPECT_TRUE(Find(form, "Frame2").isVisible());
     EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("Frame3")), nullptr);
+}
+
+TEST_F(MainWindow, TheTabKeyGoesFromTheMenusOverTheStepsAndThePanelToTheHelp) {
+    auto& form = static_cast<Form1&>(Main());
+    EXPECT_EQ(form.focusWidget(), &Find(form, "Command7"));
+    // Panels are made late, and their last child need not be a tab stop.
+    for (const auto& [panel, first] :
+         {std::pair{PanelName::Frame3, "Text1"}, std::pair{PanelName::Frame5, "Command14"},
+          std::pair{PanelName::Frame3, "Text1"}}) {
+        form.ShowPanel(panel);
+        const QStringList stops = TabStops(form);
+        EXPECT_EQ(stops.front(), QStringLiteral("Label24"));
+        EXPECT_EQ(stops.back(), QStringLiteral("Command9"));
+        EXPECT_EQ(stops.indexOf(QLatin1String(first)),
+                  stops.indexOf(QLatin1String("Command6")) + 1);
+    }
 }
 
 TEST_F(MainWindow, MenuEntriesAreServedByTheTimer) {

@@ -137,6 +137,9 @@ TEST_P(ScreenPanels, TheTimeIsCheckedAsItIsTyped) {
     PressKey(box, Qt::Key_Delete);
     EXPECT_EQ(box.text(), QString());
     EXPECT_EQ(Screen().Vreme, "");
+    EXPECT_EQ(TypedTime(panel, "61"), QStringLiteral("5"));
+    PressKey(box, Qt::Key_Backspace);
+    EXPECT_EQ(box.text(), QString()) << "deleting goes on behind the number";
 }
 
 TEST_P(ScreenPanels, TheUpperArrowRaisesASize) {
