@@ -16,6 +16,7 @@
 #include <chrono>
 #include <ctime>
 #include <memory>
+#include <tuple>
 
 namespace tavmoor {
 
@@ -111,7 +112,9 @@ bool IsCopyName(std::string_view name) {
 struct Copy {
     fs::file_time_type written;
     std::string path;
-    auto operator<=>(const Copy&) const = default;
+    bool operator<(const Copy& other) const {
+        return std::tie(written, path) < std::tie(other.written, other.path);
+    }
 };
 
 /// All copies from the oldest to the newest; equal times go by name.

@@ -73,7 +73,7 @@ public:
         player_ = new QMediaPlayer(QCoreApplication::instance());
         player_->setAudioOutput(new QAudioOutput(player_));
         player_->setSource(QUrl::fromLocalFile(NativePathText(file)));
-        const QString failure = WaitForFile(player_);
+        QString failure = WaitForFile(player_);
         if (!failure.isEmpty()) {
             Close();
         }

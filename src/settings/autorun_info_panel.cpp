@@ -237,7 +237,8 @@ void Frame3::AddFont(const MainTextRow& row) {
     }
 }
 
-void Frame3::AddValue(const char* label, std::string_view key, QString accessibleName, int column) {
+void Frame3::AddValue(const char* label, std::string_view key, const QString& accessibleName,
+                      int column) {
     auto* value = new ValueLabel(label, Body());
     value->setAccessibleName(accessibleName);
     value->setFixedWidth(column == Column::FontName ? FontNameWidth : FontSizeWidth);

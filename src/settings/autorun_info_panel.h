@@ -27,7 +27,8 @@ private:
     void AddLogoPicture();
     void AddTransparency();
     void AddCaption(const char16_t* text, QWidget& buddy);
-    void AddValue(const char* label, std::string_view key, QString accessibleName, int column);
+    void AddValue(const char* label, std::string_view key, const QString& accessibleName,
+                  int column);
     void ChooseFont(const MainTextRow& row);
     std::string& Text(std::string_view key) const;
 

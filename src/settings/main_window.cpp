@@ -19,8 +19,8 @@
 #include "settings/picture_preview_window.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
+#include <QShortcut>
 
 namespace tavmoor {
 
@@ -61,6 +61,7 @@ Form1::Form1(ProgramContext context)
     column_ = new NavigationColumn(this);
     column_->move(ColumnPlace);
     MakeBottomRow();
+    MakeKeys();
     player_ = new MP3Play(this);
     player_->setObjectName(QStringLiteral("MP3Play1"));
     player_->hide();
@@ -347,17 +348,17 @@ void Form1::Serve(MenuAction action) {
     }
 }
 
-void Form1::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1) {
-        Serve(MenuAction::Help);
-    } else if (event->matches(QKeySequence::Save)) {
-        Serve(MenuAction::SaveProject);
-    } else if (event->matches(QKeySequence::Open)) {
-        Serve(MenuAction::OpenProject);
-    } else if (event->matches(QKeySequence::New)) {
-        Serve(MenuAction::NewProject);
-    } else {
-        SkinnedWindow::keyPressEvent(event);
+void Form1::MakeKeys() {
+    const std::pair<QKeySequence, MenuAction> keys[] = {
+        {Qt::Key_F1, MenuAction::Help},
+        {QKeySequence::Save, MenuAction::SaveProject},
+        {QKeySequence::Open, MenuAction::OpenProject},
+        {QKeySequence::New, MenuAction::NewProject}};
+    for (const auto& entry : keys) {
+        // Combo boxes search their lists for any key that is pressed in them; a shortcut comes
+        // first.
+        connect(new QShortcut(entry.first, this), &QShortcut::activated, this,
+                [this, action = entry.second] { Serve(action); });
     }
 }
 

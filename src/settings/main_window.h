@@ -52,11 +52,11 @@ protected:
     void OnLoad() override;
     void OnActivate() override;
     void OnUnload() override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void MakeTopRow();
     void MakeBottomRow();
+    void MakeKeys();
     void OpenMenu(MenuSide side);
     void ServeStoredAction();
     void ShowBuildTooltip();

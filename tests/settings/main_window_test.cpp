@@ -48,6 +48,18 @@ TEST_F(MainWindow, TheTabKeyGoesFromTheMenusOverTheStepsAndThePanelToTheHelp) {
     }
 }
 
+TEST_F(MainWindow, ItsKeysWorkFromAnyControl) {
+    auto& form = static_cast<Form1&>(Main());
+    form.ShowPanel(PanelName::Frame4);
+    Settle(); // keys go to the active window
+    test::ScriptedBoxes boxes({BoxAnswer::No, BoxAnswer::No});
+    for (const char* control : {"Text24", "Combo6"}) {
+        Find(form, control).setFocus();
+        PressKey(Find(form, control), Qt::Key_N, Qt::ControlModifier);
+    }
+    EXPECT_EQ(boxes.shown.size(), 2U);
+}
+
 TEST_F(MainWindow, MenuEntriesAreServedByTheTimer) {
     auto& form = Main();
     Click(form, "Label24");
