@@ -19,16 +19,16 @@ int FontPoints(std::string_view size) {
     return points && *points >= 1 && *points <= MostPoints ? *points : UsualPoints;
 }
 
-QFont ToQFont(const FontSpec& spec) {
+QFont ToQFont(const FontSpec& wanted) {
     QFont font;
-    if (!spec.name.empty()) {
-        font.setFamily(ToQString(spec.name));
+    if (!wanted.name.empty()) {
+        font.setFamily(ToQString(wanted.name));
     }
-    font.setPointSize(FontPoints(spec.size));
-    font.setBold(spec.bold);
-    font.setItalic(spec.italic);
-    font.setUnderline(spec.underline);
-    font.setStrikeOut(spec.strikeOut);
+    font.setPointSize(FontPoints(wanted.size));
+    font.setBold(wanted.bold);
+    font.setItalic(wanted.italic);
+    font.setUnderline(wanted.underline);
+    font.setStrikeOut(wanted.strikeOut);
     return font;
 }
 

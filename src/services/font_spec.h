@@ -22,6 +22,6 @@ struct FontSpec {
 int FontPoints(std::string_view size);
 
 /// The font with which a window shows a field.
-QFont ToQFont(const FontSpec& spec);
+QFont ToQFont(const FontSpec& wanted);
 
 } // namespace tavmoor
