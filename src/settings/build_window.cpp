@@ -9,6 +9,7 @@
 #include "services/text_boxes.h"
 #include "services/theme.h"
 #include "services/value_label.h"
+#include "settings/caption_label.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -29,12 +30,6 @@ constexpr WindowLook Form8Look{
 
 constexpr int StatusLines = 4;
 constexpr int NoteLines = 2;
-
-QLabel* BuddyLabel(const char16_t* text, QWidget* buddy, QWidget* parent) {
-    auto* label = new QLabel(QString::fromUtf16(text), parent);
-    label->setBuddy(buddy);
-    return label;
-}
 
 /// Logical pixels: the title is seen whole, beside the chrome.
 int WindowWidth() {
@@ -90,9 +85,9 @@ QLayout* Form8::MakeFields() {
     name_->setToolTip(QStringLiteral("Name of the autorun program. Letters, digits, _ and -"));
     auto* fields = new QGridLayout;
     fields->setSpacing(theme::Gap);
-    fields->addWidget(BuddyLabel(u"CD-ROM files folder:", folder_, Body()), 0, 0);
+    fields->addWidget(MakeCaption(u"CD-ROM files folder:", folder_, Body()), 0, 0);
     fields->addWidget(folder_, 0, 1, 1, 2);
-    fields->addWidget(BuddyLabel(u"&Name of the autorun:", name_, Body()), 1, 0);
+    fields->addWidget(MakeCaption(u"&Name of the autorun:", name_, Body()), 1, 0);
     fields->addWidget(name_, 1, 1);
     fields->addWidget(new QLabel(QStringLiteral(".exe"), Body()), 1, 2);
     fields->setColumnStretch(1, 1);

@@ -12,6 +12,7 @@
 #include "services/skinned_window.h"
 #include "services/theme.h"
 #include "services/value_label.h"
+#include "settings/caption_label.h"
 #include "settings/color_pick_button.h"
 #include "settings/field_pickers.h"
 #include "settings/picture_field.h"
@@ -52,12 +53,6 @@ constexpr int IconSide = 32;
 constexpr int ColorBoxWidth = 120;
 constexpr int TemplateNameShare = 2;
 constexpr int TemplatePathShare = 5;
-
-QLabel* MakeLabel(const char16_t* text, QWidget* parent, QWidget* buddy = nullptr) {
-    auto* label = new QLabel(QString::fromUtf16(text), parent);
-    label->setBuddy(buddy);
-    return label;
-}
 
 /// @param layout of the group, made here
 template <typename Layout>
@@ -106,9 +101,9 @@ QWidget* Frame2::MakeFolderGroup() {
     folder_->setAccessibleName(group->title());
     auto* browse = new PictureButton(
         {"Command32", "browse", u"", u"CD ROM files folder", ButtonLook::Icon}, group);
-    auto* note = MakeLabel(u"(project folder where you keep files and folders that you want to "
-                           u"have on your CD/DVD-ROM)",
-                           group, folder_);
+    auto* note = MakeCaption(u"(project folder where you keep files and folders that you want to "
+                             u"have on your CD/DVD-ROM)",
+                             folder_, group);
     note->setProperty("look", QStringLiteral("note"));
     note->setFont(theme::NoteFont());
     grid->addWidget(folder_, 0, 0);
@@ -146,9 +141,9 @@ QWidget* Frame2::MakeBackgroundGroup() {
     auto* pickColor = new ColorPickButton(
         {"Command2", "palette", u"", u"Click here to choose background color", ButtonLook::Icon},
         Context(), *color, settings.BojaProzora, group);
-    grid->addWidget(MakeLabel(u"Background picture:", group, picture), 0, 0);
+    grid->addWidget(MakeCaption(u"Background picture:", picture, group), 0, 0);
     grid->addWidget(picture, 0, 1, 1, 3);
-    grid->addWidget(MakeLabel(u"Back color", group, color), 1, 0);
+    grid->addWidget(MakeCaption(u"Back color", color, group), 1, 0);
     grid->addWidget(color, 1, 1);
     grid->addWidget(pickColor, 1, 2);
     grid->setColumnStretch(3, 1);

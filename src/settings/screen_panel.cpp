@@ -6,6 +6,7 @@
 #include "services/text_boxes.h"
 #include "services/theme.h"
 #include "services/value_label.h"
+#include "settings/caption_label.h"
 #include "settings/color_pick_button.h"
 #include "settings/field_pickers.h"
 #include "settings/screen_panel_description.h"
@@ -40,12 +41,6 @@ QHBoxLayout* MakeRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(theme::Gap);
     return row;
-}
-
-QLabel* MakeCaption(const char16_t* text, QWidget& buddy) {
-    auto* label = new QLabel(QString::fromUtf16(text));
-    label->setBuddy(&buddy);
-    return label;
 }
 
 QVBoxLayout* MakeLines(QWidget* owner) {
@@ -114,7 +109,7 @@ QLayout* ScreenPanel::MakeTime() {
     timeUnit_ = new QLabel(QStringLiteral("seconds"), Body());
     timeUnit_->setObjectName(QString::fromLatin1(description_.timeUnit));
     auto* row = MakeRow();
-    row->addWidget(MakeCaption(description_.time.text, *time_));
+    row->addWidget(MakeCaption(description_.time.text, time_));
     row->addWidget(time_);
     row->addWidget(timeUnit_);
     row->addStretch(1);
@@ -177,7 +172,7 @@ QLayout* ScreenPanel::MakePosition(const NamedText& text, std::string_view key) 
     }
     Tie(text.control, FieldForm::Choice, key);
     auto* row = MakeRow();
-    row->addWidget(MakeCaption(text.text, *combo));
+    row->addWidget(MakeCaption(text.text, combo));
     row->addWidget(combo, 1);
     return row;
 }
@@ -215,7 +210,7 @@ QLayout* ScreenPanel::MakeColor() {
     connect(button, &ColorPickButton::Changed, this, &ScreenPanel::ShowDocument);
     Tie(description_.color.control, FieldForm::Color, "Bojaprozora");
     auto* row = MakeRow();
-    row->addWidget(MakeCaption(description_.color.text, *area));
+    row->addWidget(MakeCaption(description_.color.text, area));
     row->addWidget(area);
     row->addWidget(button);
     row->addStretch(1);
@@ -244,7 +239,7 @@ void ScreenPanel::AddDimension(QHBoxLayout& row, const ScreenDimension& dimensio
     Tie(dimension.bar.control, FieldForm::Number, dimension.key);
     Tie(dimension.label, FieldForm::Shown, dimension.key);
     row.addSpacing(theme::Margin);
-    row.addWidget(MakeCaption(dimension.bar.text, *bar));
+    row.addWidget(MakeCaption(dimension.bar.text, bar));
     row.addWidget(shown);
     row.addWidget(bar);
 }
