@@ -2,6 +2,7 @@
 #include "looks/looks.h"
 #include "window/menu_window.h"
 #include "window/package_fonts.h"
+#include "window/screen_window.h"
 #include "window/shell_runner.h"
 #include "window/wide_text.h"
 
@@ -13,6 +14,8 @@
 #include <objbase.h>
 
 namespace {
+
+using tavmoor::WindowEnd;
 
 constexpr int Failed = 1;
 
@@ -40,22 +43,38 @@ private:
     ULONG_PTR pictures_ = 0;
 };
 
-int ShowMenu(HINSTANCE instance, const std::filesystem::path& folder) {
+/// Splash screen, menu and exit screen, one after the other. Each is shown before the one in front
+/// of it goes, so that no other program's window comes to the front in between.
+int RunProgram(HINSTANCE instance, const std::filesystem::path& folder) {
     const SystemLibraries libraries;
     tavmoor::AutorunDisc disc(folder);
+    const tavmoor::ProjectDocument& project = disc.Document();
     const tavmoor::PackageFonts fonts(disc);
     const tavmoor::Look look = tavmoor::TAVMOOR_LOOK();
+    tavmoor::BackgroundPlayer sound(disc.PackagePath(), tavmoor::MakeBackgroundSound(project.Zvuk));
+    tavmoor::ScreenWindow splash(disc, look, tavmoor::MakeScreenModel(project.Uvod));
+    if (splash.Show(instance)) {
+        sound.ProgramStarted();
+        if (splash.Run() == WindowEnd::Program) {
+            return 0;
+        }
+    }
     tavmoor::ShellRunner runner;
-    tavmoor::MenuWindow menu(disc, look, runner);
+    tavmoor::MenuWindow menu(disc, look, runner, sound);
     if (!menu.Show(instance)) {
         return Failed;
     }
-    MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+    sound.ProgramStarted();
+    splash.Close();
+    if (menu.Run() == WindowEnd::Program) {
+        return 0;
     }
-    return static_cast<int>(message.wParam);
+    tavmoor::ScreenWindow farewell(disc, look, tavmoor::MakeScreenModel(project.Izlaz));
+    if (farewell.Show(instance)) {
+        menu.Hide();
+        farewell.Run();
+    }
+    return 0;
 }
 
 int Report(const std::wstring& title, const char* text) {
@@ -74,7 +93,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, LPSTR /*commandLi
         if (program.has_stem()) {
             title = program.stem().wstring();
         }
-        return ShowMenu(instance, program.parent_path());
+        return RunProgram(instance, program.parent_path());
     } catch (const std::exception& error) {
         return Report(title, error.what());
     }

@@ -5,6 +5,7 @@ namespace tavmoor {
 Look MarqueeLook() {
     Look look;
     look.size = {800, 500};
+    look.screenSize = {640, 360};
     look.buttonPlace = ButtonPlace::BottomGrid;
     look.logoBelowTitle = true;
     look.centredCaptions = true;

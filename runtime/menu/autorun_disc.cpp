@@ -47,8 +47,7 @@ bool IsFontFile(std::string_view name) {
                        [&](std::string_view ending) { return EndsWithoutCase(name, ending); });
 }
 
-std::unique_ptr<PackageFile> OpenPackage(const fs::path& folder) {
-    const fs::path path = FindPackage(folder);
+std::unique_ptr<PackageFile> OpenPackage(const fs::path& path) {
     try {
         return std::make_unique<PackageFile>(path);
     } catch (const PackageError& error) {
@@ -74,7 +73,7 @@ std::string ReadConfiguration(PackageFile& package) {
 } // namespace
 
 AutorunDisc::AutorunDisc(fs::path folder)
-    : folder_(std::move(folder)), package_(OpenPackage(folder_)),
+    : folder_(std::move(folder)), path_(FindPackage(folder_)), package_(OpenPackage(path_)),
       document_(std::make_unique<ProjectDocument>(NewProjectDocument())) {
     const ProfileFile configuration(ReadConfiguration(*package_));
     if (configuration.Entries().empty()) {

@@ -28,6 +28,7 @@ public:
     explicit AutorunDisc(std::filesystem::path folder);
 
     [[nodiscard]] const std::filesystem::path& Folder() const noexcept { return folder_; }
+    [[nodiscard]] const std::filesystem::path& PackagePath() const noexcept { return path_; }
     [[nodiscard]] const ProjectDocument& Document() const noexcept { return *document_; }
 
     /// The bytes of a file in the package; nothing when there is none of that name, when it is
@@ -39,6 +40,7 @@ public:
 
 private:
     std::filesystem::path folder_;
+    std::filesystem::path path_; ///< of the package
     std::unique_ptr<PackageFile> package_;
     std::unique_ptr<ProjectDocument> document_;
 };

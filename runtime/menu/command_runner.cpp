@@ -13,19 +13,23 @@ std::string FailureMessage(const std::string& what, const std::string& reason) {
 CommandOutcome RunCommand(const MenuCommand& command, std::string_view discFolder,
                           const PathExists& exists, CommandRunner& runner) {
     if (command.kind == CommandKind::Exit) {
-        return {true, {}};
+        return {.closesMenu = true};
+    }
+    if (command.kind == CommandKind::Sound) {
+        return {.sound = SoundChange::Toggle};
     }
     const auto resolution = ResolveCommand(command, discFolder, exists);
     if (const auto* refusal = std::get_if<CommandRefusal>(&resolution)) {
-        return {false, FailureMessage(command.target, refusal->reason)};
+        return {.message = FailureMessage(command.target, refusal->reason)};
     }
     const StartRequest& request = std::get<StartRequest>(resolution);
     std::string reason;
     switch (runner.Start(request, reason)) {
     case StartResult::Started:
-        return {command.closes, {}};
+        return {.closesMenu = command.closes,
+                .sound = command.stopsSound ? SoundChange::Stop : SoundChange::None};
     case StartResult::Failed:
-        return {false, FailureMessage(request.file, reason)};
+        return {.message = FailureMessage(request.file, reason)};
     case StartResult::Cancelled:
         break;
     }

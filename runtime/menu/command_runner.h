@@ -28,13 +28,18 @@ protected:
     CommandRunner& operator=(const CommandRunner&) = default;
 };
 
+/// What a command does to the background sound.
+enum class SoundChange : std::uint8_t { None, Toggle, Stop };
+
 /// What became of a command.
 struct CommandOutcome {
     bool closesMenu = false;
-    std::string message; ///< to be shown to the user; "" for none
+    std::string message{}; ///< to be shown to the user; "" for none
+    SoundChange sound = SoundChange::None;
 };
 
-/// Runs a command of the menu. One that fails or is cancelled never closes the menu.
+/// Runs a command of the menu. One that fails or is cancelled neither closes the menu nor stops the
+/// sound.
 CommandOutcome RunCommand(const MenuCommand& command, std::string_view discFolder,
                           const PathExists& exists, CommandRunner& runner);
 

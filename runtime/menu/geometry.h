@@ -11,7 +11,7 @@ struct Extent {
     bool operator==(const Extent&) const = default;
 };
 
-/// A rectangle of the menu window, in pixels of its client area.
+/// A rectangle of a window, in pixels of its client area.
 struct Box {
     int x = 0;
     int y = 0;

@@ -14,7 +14,14 @@ constexpr Extent SmallestWindow{200, 150};
 /// A picture smaller than this share of the look's size is no measure for the window.
 constexpr int SmallestPictureShare = 2;
 
-MenuFont Choose(const MenuFont& chosen, const MenuFont& own) {
+Extent WithDefaults(Extent given, Extent fallback) {
+    return {std::max(given.width > 0 ? given.width : fallback.width, SmallestWindow.width),
+            std::max(given.height > 0 ? given.height : fallback.height, SmallestWindow.height)};
+}
+
+} // namespace
+
+MenuFont ChooseFont(const MenuFont& chosen, const MenuFont& own) {
     MenuFont font = chosen;
     if (chosen.face.empty()) {
         font.face = own.face;
@@ -27,23 +34,16 @@ MenuFont Choose(const MenuFont& chosen, const MenuFont& own) {
     return font;
 }
 
-Extent WithDefaults(Extent given, Extent fallback) {
-    return {std::max(given.width > 0 ? given.width : fallback.width, SmallestWindow.width),
-            std::max(given.height > 0 ? given.height : fallback.height, SmallestWindow.height)};
-}
-
-} // namespace
-
 MenuFonts ChooseFonts(const MenuModel& model, const Look& look) {
     MenuFont button = model.buttonFont;
     if (look.hasOwnTaste && button.face == NewButtonFace && button.points == NewButtonPoints) {
         button = {};
     }
-    return {Choose(model.title.font, look.fonts.title),
-            Choose(model.logo.font, look.fonts.logo),
-            Choose(model.descriptionTitle.font, look.fonts.descriptionTitle),
-            Choose(model.description.font, look.fonts.description),
-            Choose(button, look.fonts.button),
+    return {ChooseFont(model.title.font, look.fonts.title),
+            ChooseFont(model.logo.font, look.fonts.logo),
+            ChooseFont(model.descriptionTitle.font, look.fonts.descriptionTitle),
+            ChooseFont(model.description.font, look.fonts.description),
+            ChooseFont(button, look.fonts.button),
             look.fonts.group};
 }
 

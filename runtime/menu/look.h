@@ -59,8 +59,9 @@ enum class PicturePlace : std::uint8_t { CoverWindow, StretchToWindow, Frame };
 
 /// What makes one template's menu look as it does: data alone. Lengths are pixels at 96 dpi.
 struct Look {
-    Extent size;               ///< client size of the window where the project gives none
-    bool sizeOfPicture = true; ///< a background picture gives the client size instead
+    Extent size;                 ///< client size of the window where the project gives none
+    Extent screenSize{480, 300}; ///< of a splash or exit screen where the project gives none
+    bool sizeOfPicture = true;   ///< a background picture gives the client size instead
     DesignedIn designedIn = DesignedIn::Settings;
     /// Colours and fonts that a new project has count as not chosen, and the look's own stand.
     bool hasOwnTaste = true;
@@ -90,6 +91,9 @@ struct Look {
     MenuFonts fonts;
     Palette colors;
 };
+
+/// A font that the author chose, or the look's own in its place.
+MenuFont ChooseFont(const MenuFont& chosen, const MenuFont& own);
 
 /// The fonts to draw with: the author's, or the look's own where none was chosen.
 MenuFonts ChooseFonts(const MenuModel& model, const Look& look);

@@ -172,19 +172,29 @@ private:
         const bool left = look_.buttonPlace == ButtonPlace::LeftColumn;
         const Box column{left ? body.x : body.Right() - width, body.y, width, body.height};
         const int rest = std::max(body.width - width - Pixels(BodyGap), 0);
-        PlaceListAndExit(column);
+        PlaceListAndProgram(column);
         PlacePictureAndText({left ? body.Right() - rest : body.x, body.y, rest, body.height});
     }
 
-    /// The exit button stands right below the list, and stays there while the list scrolls; in a
-    /// window with no room for that it is part of the list.
-    void PlaceListAndExit(Box column) {
-        const std::size_t listed = Count() - 1;
-        const FlowRules exitRules{listed, 1, 1, false};
+    /// The first of the commands of the program itself, which are the last ones.
+    [[nodiscard]] std::size_t FirstOfProgram() const {
+        const auto& commands = request_.model.commands;
+        const auto other =
+            std::find_if(commands.rbegin(), commands.rend(), [](const MenuCommand& command) {
+                return command.group != MenuGroup::Program;
+            });
+        return static_cast<std::size_t>(commands.rend() - other);
+    }
+
+    /// The program's own buttons stand right below the list, and stay there while the list scrolls;
+    /// in a window with no room for that they are part of the list.
+    void PlaceListAndProgram(Box column) {
+        const std::size_t listed = FirstOfProgram();
+        const FlowRules programRules{listed, Count() - listed, 1, false};
         const FlowRules listRules{0, listed, 1, false};
-        const ButtonFlow exit = FlowButtons(request_, exitRules, column.width);
-        const int gap = Pixels(look_.buttonGap) * (exit.groups.empty() ? 1 : 2);
-        const int room = column.height - exit.height - gap;
+        const ButtonFlow program = FlowButtons(request_, programRules, column.width);
+        const int gap = Pixels(look_.buttonGap) * (program.groups.empty() ? 1 : 2);
+        const int room = column.height - program.height - gap;
         const int height = FlowButtons(request_, listRules, column.width).height;
         layout_.firstFixed = listed;
         if (room < std::min(height, LeastListRows * Pixels(look_.buttonHeight))) {
@@ -195,7 +205,7 @@ private:
         column.height = std::min(room, height);
         ShowList(listRules, column);
         const int buttonWidth = listed == 0 ? column.width : layout_.buttons.front().width;
-        Take(FlowButtons(request_, exitRules, buttonWidth), column.x,
+        Take(FlowButtons(request_, programRules, buttonWidth), column.x,
              column.Bottom() + (listed == 0 ? 0 : gap));
     }
 

@@ -1,9 +1,9 @@
 #include "menu/menu_model.h"
 
-#include "core/code_page.h"
 #include "core/number_text.h"
 #include "core/text_case.h"
 #include "core/value_encoding.h"
+#include "menu/stored_values.h"
 
 #include <algorithm>
 #include <string_view>
@@ -13,34 +13,12 @@ namespace tavmoor {
 namespace {
 
 constexpr int TwipsPerPixel = 15;
-constexpr int LargestPoints = 400;
-
-std::string Text(std::string_view bytes) {
-    std::string lines;
-    lines.reserve(bytes.size());
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (bytes[i] != '\r') {
-            lines += bytes[i];
-        } else if (i + 1 == bytes.size() || bytes[i + 1] != '\n') {
-            lines += '\n';
-        }
-    }
-    return SystemCodePage().ToUtf8(lines);
-}
-
-int Points(std::string_view size) {
-    return std::clamp<int>(ParseInteger<std::int16_t>(size).value_or(0), 0, LargestPoints);
-}
-
-MenuFont Font(std::string_view face, std::string_view size, bool bold, bool italic,
-              bool underline = false) {
-    return {Text(TrimBlanks(face)), Points(size), bold, italic, underline, false};
-}
 
 MenuText LogoText(const MainTexts& texts, const FixedText& look) {
-    MenuText logo{Text(texts.Logotekst),
-                  Font(texts.Font, texts.Velicina, texts.Stil == "Bold", texts.Stil == "Italic"),
-                  texts.Logotekstboja};
+    MenuText logo{
+        Utf8Text(texts.Logotekst),
+        StoredFont(texts.Font, texts.Velicina, texts.Stil == "Bold", texts.Stil == "Italic"),
+        texts.Logotekstboja};
     logo.font.underline = look.TekstUnderline || EndsWithoutCase(texts.Efekti, "line");
     logo.font.strikeOut = texts.Efekti.starts_with("Strike");
     return logo;
@@ -50,31 +28,27 @@ void TakeTexts(MenuModel& model, const ProjectDocument& document) {
     const MainTexts& texts = document.OsnovniPodaci;
     const auto& looks = document.NapredniSabloni.Tekst;
     model.logo = LogoText(texts, looks[0]);
-    model.title = {
-        Text(texts.Glavninaslov),
-        Font(texts.GlavninaslovFont, texts.GlnaslovVel, false, false, looks[1].TekstUnderline),
-        texts.GlnaslovBoja};
-    model.descriptionTitle = {Text(texts.GlavniOpisnaslov),
-                              Font(texts.GlavniOpisnaslovFont, texts.GlavniOpisnaslovVel,
-                                   texts.GlavniOpisnaslovBold, texts.GlavniOpisnaslovItalic,
-                                   looks[2].TekstUnderline),
+    model.title = {Utf8Text(texts.Glavninaslov),
+                   StoredFont(texts.GlavninaslovFont, texts.GlnaslovVel, false, false,
+                              looks[1].TekstUnderline),
+                   texts.GlnaslovBoja};
+    model.descriptionTitle = {Utf8Text(texts.GlavniOpisnaslov),
+                              StoredFont(texts.GlavniOpisnaslovFont, texts.GlavniOpisnaslovVel,
+                                         texts.GlavniOpisnaslovBold, texts.GlavniOpisnaslovItalic,
+                                         looks[2].TekstUnderline),
                               texts.GlavniOpisnaslovBoja};
-    model.description = {Text(texts.GlavniOpis),
-                         Font(texts.GlavniOpisFont, texts.GlavniOpisVel, texts.GlavniOpisBold,
-                              texts.GlavniOpisItalic, looks[3].TekstUnderline),
+    model.description = {Utf8Text(texts.GlavniOpis),
+                         StoredFont(texts.GlavniOpisFont, texts.GlavniOpisVel, texts.GlavniOpisBold,
+                                    texts.GlavniOpisItalic, looks[3].TekstUnderline),
                          texts.GlavniOpisBoja};
     if (!texts.Opisprovidan) {
         model.descriptionColor = document.IzvrsneKomande.Bojapozadine;
     }
-    model.windowTitle = Text(texts.Tasknaslov);
-    if (TrimBlanks(model.windowTitle).empty()) {
-        model.windowTitle = model.title.text;
-    }
-    std::replace(model.windowTitle.begin(), model.windowTitle.end(), '\n', ' ');
+    model.windowTitle = WindowTitle(document);
 }
 
 void TakeButtonLook(MenuModel& model, const CommandLook& look) {
-    model.buttonFont = Font(look.Font, look.Velicina, false, false);
+    model.buttonFont = StoredFont(look.Font, look.Velicina, false, false);
     model.buttonTextColor = ParseInteger<ColorValue>(look.Bojaslova);
     model.buttonFaceColor = ParseInteger<ColorValue>(look.Bojapozadinekomandi);
     if (look.Addshadow) {
@@ -94,15 +68,6 @@ CommandKind KindOf(std::string_view kind) {
     return EqualWithoutCase(kind, "Send mail") ? CommandKind::SendMail : CommandKind::OpenFile;
 }
 
-/// The text forms of "yes": what the windows of several versions have stored.
-bool SaysYes(std::string_view text) {
-    text = TrimBlanks(text);
-    const auto number = ParseNumber(text);
-    return number ? *number != 0.0
-                  : EqualWithoutCase(text, "True") || EqualWithoutCase(text, "Da") ||
-                        EqualWithoutCase(text, "Yes");
-}
-
 void TakeFixedCommands(MenuModel& model, const ProjectDocument& document) {
     for (std::size_t row = 1; row < FixedCommandRows; ++row) {
         const FixedCommand& from = document.IzvrsneKomande.Komande[row];
@@ -114,10 +79,10 @@ void TakeFixedCommands(MenuModel& model, const ProjectDocument& document) {
         const bool online = kind == CommandKind::VisitPage || kind == CommandKind::SendMail;
         model.commands.push_back({kind,
                                   online ? MenuGroup::Info : MenuGroup::Main,
-                                  Text(from.Opis),
-                                  Text(from.Fajl),
-                                  Text(from.Parametar),
-                                  {Text(told.C), Text(told.O)},
+                                  Utf8Text(from.Opis),
+                                  Utf8Text(from.Fajl),
+                                  Utf8Text(from.Parametar),
+                                  {Utf8Text(told.C), Utf8Text(told.O)},
                                   from.Zatvara != 0});
     }
 }
@@ -129,20 +94,35 @@ void TakeAdditionalCommands(MenuModel& model, const ProjectDocument& document) {
         }
         model.commands.push_back({KindOf(from.addtype),
                                   MenuGroup::Additional,
-                                  Text(from.addname),
-                                  Text(from.addtarget),
-                                  Text(from.addparam),
-                                  {Text(from.adddesctitle), Text(from.adddescription)},
-                                  SaysYes(from.addclose)});
+                                  Utf8Text(from.addname),
+                                  Utf8Text(from.addtarget),
+                                  Utf8Text(from.addparam),
+                                  {Utf8Text(from.adddesctitle), Utf8Text(from.adddescription)},
+                                  SaysYes(from.addclose),
+                                  SaysYes(from.addStopBackgroundMusic)});
     }
+}
+
+void TakeSound(MenuModel& model, const ProjectDocument& document) {
+    const SoundSpec& sound = document.Zvuk;
+    if (sound.Fajl.empty()) {
+        return;
+    }
+    const CommandLook& look = document.IzvrsneKomande;
+    MenuCommand command;
+    command.kind = CommandKind::Sound;
+    command.group = MenuGroup::Program;
+    command.caption = sound.Komanda.empty() ? "Sound on/off" : Utf8Text(sound.Komanda);
+    command.description = {Utf8Text(look.Sounddesctitle), Utf8Text(look.Sounddescription)};
+    model.commands.push_back(std::move(command));
 }
 
 void TakeExit(MenuModel& model, const CommandLook& look) {
     MenuCommand exit;
     exit.kind = CommandKind::Exit;
     exit.group = MenuGroup::Program;
-    exit.caption = look.Izlaz.empty() ? "Exit" : Text(look.Izlaz);
-    exit.description = {Text(look.Exitdesctitle), Text(look.Exitdescription)};
+    exit.caption = look.Izlaz.empty() ? "Exit" : Utf8Text(look.Izlaz);
+    exit.description = {Utf8Text(look.Exitdesctitle), Utf8Text(look.Exitdescription)};
     model.commands.push_back(std::move(exit));
 }
 
@@ -182,20 +162,28 @@ bool MenuModel::HasDescriptions() const {
                        [](const MenuCommand& command) { return !command.description.Empty(); });
 }
 
+std::string WindowTitle(const ProjectDocument& document) {
+    const MainTexts& texts = document.OsnovniPodaci;
+    const bool blank = TrimBlanks(texts.Tasknaslov).empty();
+    std::string title = Utf8Text(blank ? texts.Glavninaslov : texts.Tasknaslov);
+    std::replace(title.begin(), title.end(), '\n', ' ');
+    return title;
+}
+
 MenuModel MakeMenuModel(const ProjectDocument& document, DesignedIn place) {
     MenuModel model;
     TakeSize(model, document.OsnovnaPodesavanja);
     model.windowColor = document.OsnovnaPodesavanja.BojaProzora;
     model.backgroundPicture = document.OsnovnaPodesavanja.PozadinskaSlika;
     model.logoPicture = document.OsnovniPodaci.Logoslika;
-    model.hasIcon = !document.OsnovniPodaci.Ikona.empty();
     TakeTexts(model, document);
     TakeButtonLook(model, document.IzvrsneKomande);
     const MenuTitleTexts& titles = document.MenuTitles;
-    model.groupTitles = {Text(titles.TitleMain), Text(titles.Titleinfo), Text(titles.Titleaddit),
-                         Text(titles.Titleprog)};
+    model.groupTitles = {Utf8Text(titles.TitleMain), Utf8Text(titles.Titleinfo),
+                         Utf8Text(titles.Titleaddit), Utf8Text(titles.Titleprog)};
     TakeFixedCommands(model, document);
     TakeAdditionalCommands(model, document);
+    TakeSound(model, document);
     TakeExit(model, document.IzvrsneKomande);
     if (place == DesignedIn::Canvas) {
         TakeCanvas(model, document.NapredniSabloni);

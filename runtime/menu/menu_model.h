@@ -14,7 +14,7 @@ namespace tavmoor {
 // What the menu window shows, drawn from the runtime configuration and freed of its storage forms.
 // Texts are UTF-8 with LF as line break; colours are still those of the project.
 
-enum class CommandKind : std::uint8_t { OpenFile, RunProgram, VisitPage, SendMail, Exit };
+enum class CommandKind : std::uint8_t { OpenFile, RunProgram, VisitPage, SendMail, Sound, Exit };
 
 /// The groups in which a look may gather the commands, in their order.
 enum class MenuGroup : std::uint8_t { Main, Info, Additional, Program };
@@ -54,13 +54,13 @@ struct MenuCommand {
     std::string parameter;
     Description description;
     bool closes = false;
+    bool stopsSound = false; ///< the background sound
 };
 
 struct MenuModel {
     std::string windowTitle;
     Extent windowSize; ///< outer size, pixels at 96 dpi; 0 for a side that is not given
     bool maximized = false;
-    bool hasIcon = false;
 
     ColorValue windowColor = 0;
     std::string backgroundPicture; ///< name in the package
@@ -79,7 +79,9 @@ struct MenuModel {
     std::optional<ColorValue> buttonShadowColor;
 
     std::array<std::string, MenuGroups> groupTitles;
-    std::vector<MenuCommand> commands; ///< the exit command is the last one
+    /// The exit command is the last one; the one of the sound, if there is a sound, comes before
+    /// it.
+    std::vector<MenuCommand> commands;
 
     /// What is told while the pointer is on a command, or on none; a command without a description
     /// leaves the main one standing.
@@ -91,6 +93,9 @@ struct MenuModel {
 /// Where a project was designed: in the settings windows alone, or on the canvas as well. What the
 /// canvas has left in a project that is now for a simple template does not count.
 enum class DesignedIn : std::uint8_t { Settings, Canvas };
+
+/// The title that the windows of a project have in the task bar, on one line.
+std::string WindowTitle(const ProjectDocument& document);
 
 /// The menu of a project that was read from a runtime configuration.
 MenuModel MakeMenuModel(const ProjectDocument& document, DesignedIn place);

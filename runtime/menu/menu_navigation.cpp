@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <limits>
+#include <utility>
 
 namespace tavmoor {
 
@@ -106,6 +107,11 @@ std::optional<std::size_t> MenuSelection::Release() {
 void MenuSelection::FocusByKey(std::size_t button) {
     focused_ = button;
     byKey_ = true;
+}
+
+bool MenuSelection::TakeArrival() {
+    const auto before = std::exchange(arrivedAt_, Told());
+    return arrivedAt_ && arrivedAt_ != before;
 }
 
 ButtonState MenuSelection::StateOf(std::size_t button) const {

@@ -49,6 +49,8 @@ public:
     }
     /// The button whose description is told.
     [[nodiscard]] std::optional<std::size_t> Told() const { return byKey_ ? focused_ : hovered_; }
+    /// True once after each time that the description's button became another one.
+    bool TakeArrival();
     [[nodiscard]] bool IsHeld() const { return pressed_.has_value(); }
     [[nodiscard]] ButtonState StateOf(std::size_t button) const;
 
@@ -56,6 +58,7 @@ private:
     std::optional<std::size_t> hovered_;
     std::optional<std::size_t> pressed_;
     std::optional<std::size_t> focused_;
+    std::optional<std::size_t> arrivedAt_; ///< what TakeArrival has seen
     bool byKey_ = false;
 };
 

@@ -42,14 +42,6 @@ Argb WithOpacity(Argb color, std::uint32_t opacity) {
     return (color & 0x00FFFFFF) | (opacity << 24);
 }
 
-/// `wanted` when it can be read on `back`, otherwise white or ink.
-Argb ReadableOn(Argb back, Argb wanted) {
-    if (Contrast(wanted, back) >= Readable) {
-        return wanted;
-    }
-    return Contrast(White, back) >= Contrast(Ink, back) ? White : Ink;
-}
-
 /// Works the author's choices into a look's palette.
 class PaletteMaker {
 public:
@@ -161,6 +153,13 @@ double Contrast(Argb a, Argb b) {
     const double first = Luminance(a) + 0.05;
     const double second = Luminance(b) + 0.05;
     return std::max(first, second) / std::min(first, second);
+}
+
+Argb ReadableOn(Argb back, Argb wanted) {
+    if (Contrast(wanted, back) >= Readable) {
+        return wanted;
+    }
+    return Contrast(White, back) >= Contrast(Ink, back) ? White : Ink;
 }
 
 Palette MakePalette(const MenuModel& model, const Look& look, const SystemColors& system,

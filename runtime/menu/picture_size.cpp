@@ -1,5 +1,7 @@
 #include "menu/picture_size.h"
 
+#include "menu/little_endian.h"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -12,17 +14,15 @@ class Bytes {
 public:
     explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
 
-    [[nodiscard]] std::uint32_t At(std::size_t position) const {
-        return position < bytes_.size() ? static_cast<unsigned char>(bytes_[position]) : 0U;
-    }
+    [[nodiscard]] std::uint32_t At(std::size_t position) const { return ByteAt(bytes_, position); }
     [[nodiscard]] std::uint32_t Little16(std::size_t position) const {
-        return At(position) | At(position + 1) << 8;
+        return tavmoor::Little16(bytes_, position);
     }
     [[nodiscard]] std::uint32_t Big16(std::size_t position) const {
         return At(position) << 8 | At(position + 1);
     }
     [[nodiscard]] std::int32_t Little32(std::size_t position) const {
-        return static_cast<std::int32_t>(Little16(position) | Little16(position + 2) << 16);
+        return static_cast<std::int32_t>(tavmoor::Little32(bytes_, position));
     }
     [[nodiscard]] std::size_t Size() const { return bytes_.size(); }
     [[nodiscard]] bool StartsWith(std::string_view start) const {

@@ -2,8 +2,11 @@
 
 #include "menu/palette.h"
 #include "window/menu_painter.h"
+#include "window/monitor.h"
+#include "window/paint_buffer.h"
 #include "window/screen_dpi.h"
 #include "window/wide_text.h"
+#include "window/window_icons.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,19 +18,7 @@ namespace {
 
 constexpr const wchar_t* ClassName = L"TavmoorAutorunMenu";
 constexpr DWORD Style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-constexpr int ProgramIcon = 1;
 constexpr int WheelStep = 60; ///< pixels at 96 dpi for one notch
-constexpr LPARAM WasDownBefore = 1 << 30;
-
-/// What a message or a window carries as a number.
-template <typename Object>
-Object* PointerIn(LONG_PTR number) {
-    return reinterpret_cast<Object*>(number); // NOLINT(performance-no-int-to-ptr)
-}
-
-std::uint32_t SystemColor(int number) {
-    return GetSysColor(number);
-}
 
 bool Exists(const std::string& path) {
     return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -58,27 +49,11 @@ std::optional<MenuMove> MoveOfKey(WPARAM key, bool shift) {
     }
 }
 
-RECT WorkArea(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork;
-}
-
-/// A corner of the screen that the pointer is on; a window made there has that screen's resolution.
-POINT CornerOfScreen() {
-    POINT pointer{};
-    GetCursorPos(&pointer);
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromPoint(pointer, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    return {monitor.rcWork.left, monitor.rcWork.top};
-}
-
 } // namespace
 
-MenuWindow::MenuWindow(AutorunDisc& disc, const Look& look, CommandRunner& runner)
-    : disc_(disc), look_(look), runner_(runner), pictures_(disc),
+MenuWindow::MenuWindow(AutorunDisc& disc, const Look& look, CommandRunner& runner,
+                       BackgroundPlayer& sound)
+    : disc_(disc), look_(look), runner_(runner), sound_(sound), clickSound_(disc), pictures_(disc),
       model_(MakeMenuModel(disc.Document(), look.designedIn)), fonts_(ChooseFonts(model_, look)) {
     if (look_.groupTitles) {
         GatherGroups(model_);
@@ -87,50 +62,23 @@ MenuWindow::MenuWindow(AutorunDisc& disc, const Look& look, CommandRunner& runne
 }
 
 bool MenuWindow::Show(HINSTANCE instance) {
-    WNDCLASSEXW kind{};
-    kind.cbSize = sizeof(kind);
-    kind.lpfnWndProc = Procedure;
-    kind.hInstance = instance;
-    kind.lpszClassName = ClassName;
-    kind.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(ProgramIcon));
-    RegisterClassExW(&kind);
-    const POINT corner = CornerOfScreen();
+    RegisterWindowClass(instance, ClassName, WindowProcedure<MenuWindow>, ProgramIcon);
+    const POINT corner = CornerOfPointersScreen();
     CreateWindowExW(0, ClassName, Wide(model_.windowTitle).c_str(), Style, corner.x, corner.y, 1, 1,
                     nullptr, nullptr, instance, this);
     if (window_ == nullptr) {
         return false;
     }
     TakeDpi(DpiOf(window_));
-    LoadIcons(instance);
+    GiveIcons(window_, instance, disc_);
     PlaceOnScreen();
     ShowWindow(window_, model_.maximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
     SetForegroundWindow(window_);
     return true;
 }
 
-void MenuWindow::LoadIcons(HINSTANCE instance) {
-    const std::wstring file = (disc_.Folder() / L"Autorun.ico").wstring();
-    const auto load = [&](int width, int height) {
-        HANDLE icon = nullptr;
-        if (model_.hasIcon) {
-            icon = LoadImageW(nullptr, file.c_str(), IMAGE_ICON, width, height, LR_LOADFROMFILE);
-        }
-        return icon != nullptr ? icon
-                               : LoadImageW(instance, MAKEINTRESOURCEW(ProgramIcon), IMAGE_ICON,
-                                            width, height, LR_SHARED);
-    };
-    const auto give = [&](WPARAM which, int width, int height) {
-        const HANDLE icon = load(GetSystemMetrics(width), GetSystemMetrics(height));
-        SendMessageW(window_, WM_SETICON, which, reinterpret_cast<LPARAM>(icon));
-    };
-    give(ICON_BIG, SM_CXICON, SM_CYICON);
-    give(ICON_SMALL, SM_CXSMICON, SM_CYSMICON);
-}
-
 void MenuWindow::PlaceOnScreen() {
-    const RECT work = WorkArea(window_);
-    const Extent most{static_cast<int>(work.right - work.left),
-                      static_cast<int>(work.bottom - work.top)};
+    const Box work = WorkArea(window_);
     const WantedSize wanted =
         ChooseSize(model_, look_, pictures_.NaturalSize(model_.backgroundPicture));
     Extent size{ToPixels(wanted.size.width, dpi_), ToPixels(wanted.size.height, dpi_)};
@@ -139,14 +87,11 @@ void MenuWindow::PlaceOnScreen() {
         const int frameWidth = static_cast<int>(frame.cx);
         const int frameHeight = static_cast<int>(frame.cy);
         if (wanted.keepRatio) {
-            size = ShrinkInto(size, {most.width - frameWidth, most.height - frameHeight});
+            size = ShrinkInto(size, {work.width - frameWidth, work.height - frameHeight});
         }
         size = {size.width + frameWidth, size.height + frameHeight};
     }
-    size = {std::min(size.width, most.width), std::min(size.height, most.height)};
-    SetWindowPos(window_, nullptr, static_cast<int>(work.left) + (most.width - size.width) / 2,
-                 static_cast<int>(work.top) + (most.height - size.height) / 2, size.width,
-                 size.height, SWP_NOZORDER | SWP_NOACTIVATE);
+    PlaceInMiddle(window_, size);
 }
 
 void MenuWindow::TakeDpi(int dpi) {
@@ -156,7 +101,7 @@ void MenuWindow::TakeDpi(int dpi) {
 
 void MenuWindow::TakeColors() {
     const bool fills = look_.picturePlace != PicturePlace::Frame;
-    palette_ = MakePalette(model_, look_, SystemColor,
+    palette_ = MakePalette(model_, look_, GetSysColor,
                            fills && !pictures_.NaturalSize(model_.backgroundPicture).Empty());
 }
 
@@ -186,22 +131,11 @@ void MenuWindow::Repaint() {
 }
 
 void MenuWindow::OnPaint() {
-    PAINTSTRUCT paint{};
-    const HDC screen = BeginPaint(window_, &paint);
-    const LayoutRequest request = Request();
-    if (!request.client.Empty()) {
-        const HDC memory = CreateCompatibleDC(screen);
-        const HBITMAP canvas =
-            CreateCompatibleBitmap(screen, request.client.width, request.client.height);
-        const HGDIOBJ before = SelectObject(memory, canvas);
-        MenuPainter(memory, request, layout_, palette_, *drawing_, pictures_)
+    PaintBuffered(window_, [this](HDC target, Extent /*client*/) {
+        const LayoutRequest request = Request();
+        MenuPainter(target, request, layout_, palette_, *drawing_, pictures_)
             .Paint(selection_, scroll_);
-        BitBlt(screen, 0, 0, request.client.width, request.client.height, memory, 0, 0, SRCCOPY);
-        SelectObject(memory, before);
-        DeleteObject(canvas);
-        DeleteDC(memory);
-    }
-    EndPaint(window_, &paint);
+    });
 }
 
 void MenuWindow::OnDpiChanged(int dpi, const RECT& place) {
@@ -220,7 +154,7 @@ void MenuWindow::OnPointerMove(POINT at) {
     TrackMouseEvent(&leave);
     const auto button = layout_.ButtonAt(static_cast<int>(at.x), static_cast<int>(at.y), scroll_);
     if (selection_.PointerAt(button)) {
-        Repaint();
+        ShowSelection();
     }
 }
 
@@ -248,7 +182,7 @@ void MenuWindow::OnRelease(POINT at) {
     ReleaseCapture();
     Repaint();
     if (clicked && !scrolled) {
-        Run(*clicked);
+        RunButton(*clicked);
     }
 }
 
@@ -266,7 +200,7 @@ bool MenuWindow::OnKey(WPARAM key, bool repeated) {
         return true;
     }
     if (key == VK_ESCAPE) {
-        DestroyWindow(window_);
+        End(WindowEnd::Done);
         return true;
     }
     if (key != VK_RETURN && key != VK_SPACE) {
@@ -274,8 +208,8 @@ bool MenuWindow::OnKey(WPARAM key, bool repeated) {
     }
     if (const auto button = selection_.Focused(); button && !repeated) {
         selection_.FocusByKey(*button);
-        Repaint();
-        Run(*button);
+        ShowSelection();
+        RunButton(*button);
     }
     return true;
 }
@@ -284,6 +218,13 @@ void MenuWindow::MoveFocus(MenuMove move) {
     const std::size_t button = ButtonAfter(layout_, selection_.Focused(), move);
     selection_.FocusByKey(button);
     ScrollTo(layout_.ScrollToShow(button, scroll_));
+    ShowSelection();
+}
+
+void MenuWindow::ShowSelection() {
+    if (selection_.TakeArrival()) {
+        clickSound_.Play();
+    }
     Repaint();
 }
 
@@ -294,35 +235,32 @@ void MenuWindow::ScrollTo(int scroll) {
     }
 }
 
-void MenuWindow::Run(std::size_t button) {
+void MenuWindow::RunButton(std::size_t button) {
     if (running_) {
         return; // the shell lets messages through while it starts something
     }
     running_ = true;
+    clickSound_.Play();
     const HCURSOR before = SetCursor(LoadCursorW(nullptr, IDC_WAIT));
     const CommandOutcome outcome =
         RunCommand(model_.commands[button], Narrow(disc_.Folder().wstring()), Exists, runner_);
     SetCursor(before);
+    sound_.Change(outcome.sound);
     if (!outcome.message.empty()) {
         MessageBoxW(window_, Wide(outcome.message).c_str(), Wide(model_.windowTitle).c_str(),
                     MB_OK | MB_ICONWARNING);
     }
     running_ = false;
     if (outcome.closesMenu) {
-        DestroyWindow(window_);
+        End(WindowEnd::Done);
     }
 }
 
-LRESULT CALLBACK MenuWindow::Procedure(HWND window, UINT message, WPARAM wide, LPARAM lng) {
-    if (message == WM_NCCREATE) {
-        const auto* create = PointerIn<const CREATESTRUCTW>(lng);
-        auto* menu = static_cast<MenuWindow*>(create->lpCreateParams);
-        menu->window_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(menu));
+void MenuWindow::End(WindowEnd end) {
+    if (!end_) {
+        end_ = end;
+        PostQuitMessage(0);
     }
-    auto* menu = PointerIn<MenuWindow>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return menu != nullptr ? menu->Handle(message, wide, lng)
-                           : DefWindowProcW(window, message, wide, lng);
 }
 
 LRESULT MenuWindow::Handle(UINT message, WPARAM wide, LPARAM lng) {
@@ -343,12 +281,17 @@ LRESULT MenuWindow::Handle(UINT message, WPARAM wide, LPARAM lng) {
         OnDpiChanged(LOWORD(wide), *PointerIn<const RECT>(lng));
         return 0;
     case WM_KEYDOWN:
-        if (OnKey(wide, (lng & WasDownBefore) != 0)) {
+        if (OnKey(wide, WasDownBefore(lng))) {
             return 0;
         }
         break;
-    case WM_DESTROY:
-        PostQuitMessage(0);
+    case WM_CLOSE:
+        End(WindowEnd::Done);
+        return 0;
+    case WM_ENDSESSION:
+        if (wide != FALSE) {
+            End(WindowEnd::Program);
+        }
         return 0;
     default:
         return HandlePointer(message, wide, lng);
@@ -364,7 +307,7 @@ LRESULT MenuWindow::HandlePointer(UINT message, WPARAM wide, LPARAM lng) {
         return 0;
     case WM_MOUSELEAVE:
         if (selection_.PointerAt(std::nullopt)) {
-            Repaint();
+            ShowSelection();
         }
         return 0;
     case WM_LBUTTONDOWN:

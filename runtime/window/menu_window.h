@@ -4,8 +4,11 @@
 #include "menu/command_runner.h"
 #include "menu/menu_layout.h"
 #include "menu/menu_navigation.h"
+#include "window/background_player.h"
+#include "window/click_sound.h"
 #include "window/gdi_fonts.h"
 #include "window/picture_store.h"
+#include "window/window_class.h"
 
 #include <windows.h>
 
@@ -18,21 +21,27 @@ namespace tavmoor {
 class MenuWindow {
 public:
     /// All arguments outlive the window.
-    MenuWindow(AutorunDisc& disc, const Look& look, CommandRunner& runner);
+    MenuWindow(AutorunDisc& disc, const Look& look, CommandRunner& runner, BackgroundPlayer& sound);
     MenuWindow(const MenuWindow&) = delete;
     MenuWindow& operator=(const MenuWindow&) = delete;
+    ~MenuWindow() { DestroyWindow(window_); }
 
     /// Makes and shows the window in the middle of the screen that the pointer is on.
     /// @return false when the system has no window to give
     bool Show(HINSTANCE instance);
+    /// Returns when the user has closed the menu or the system ends the program; the window stands
+    /// until Hide.
+    WindowEnd Run() { return RunMessages(end_); }
+    void Hide() { ShowWindow(window_, SW_HIDE); }
 
 private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM lng);
+    template <typename Object>
+    friend LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wide, LPARAM lng);
+
     LRESULT Handle(UINT message, WPARAM wide, LPARAM lng);
     LRESULT HandlePointer(UINT message, WPARAM wide, LPARAM lng);
 
     [[nodiscard]] LayoutRequest Request();
-    void LoadIcons(HINSTANCE instance);
     void PlaceOnScreen();
     void TakeDpi(int dpi);
     void TakeColors();
@@ -47,11 +56,15 @@ private:
     bool OnKey(WPARAM key, bool repeated);
     void MoveFocus(MenuMove move);
     void ScrollTo(int scroll);
-    void Run(std::size_t button);
+    void ShowSelection();
+    void RunButton(std::size_t button);
+    void End(WindowEnd end);
 
     AutorunDisc& disc_;
     const Look& look_;
     CommandRunner& runner_;
+    BackgroundPlayer& sound_;
+    ClickSound clickSound_;
     PictureStore pictures_;
     MenuModel model_;
     MenuFonts fonts_;
@@ -64,6 +77,7 @@ private:
     int scroll_ = 0;
     std::optional<int> thumbGrip_; ///< where in the scroll bar's thumb it is held
     bool running_ = false;         ///< a command is being started
+    std::optional<WindowEnd> end_;
 };
 
 } // namespace tavmoor

@@ -129,4 +129,18 @@ TEST(CommandRunner, ClosesTheMenuOnlyAfterAStart) {
     EXPECT_TRUE(RunCommand(command, "D:\\disc", Exists, runner).closesMenu);
 }
 
+TEST(CommandRunner, TurnsTheSoundAroundOrOff) {
+    FakeRunner runner;
+    const auto change = [&](const MenuCommand& command) {
+        return RunCommand(command, "D:\\disc", Exists, runner).sound;
+    };
+    MenuCommand command = Command(CommandKind::OpenFile, "film.avi");
+    EXPECT_EQ(change(command), SoundChange::None);
+    command.stopsSound = true;
+    EXPECT_EQ(change(command), SoundChange::Stop);
+    runner.result = StartResult::Failed;
+    EXPECT_EQ(change(command), SoundChange::None);
+    EXPECT_EQ(change(Command(CommandKind::Sound, "")), SoundChange::Toggle);
+}
+
 } // namespace tavmoor

@@ -10,12 +10,17 @@
 
 namespace tavmoor::test {
 
-/// The menu of a runtime configuration; lines are parted by LF here.
-inline MenuModel ModelOf(const std::string& configuration,
-                         DesignedIn place = DesignedIn::Settings) {
+/// The project of a runtime configuration; lines are parted by LF here.
+inline ProjectDocument DocumentOf(const std::string& configuration) {
     ProjectDocument document = NewProjectDocument();
     ReadRuntimeConfiguration(ProfileFile(configuration), document);
-    return MakeMenuModel(document, place);
+    return document;
+}
+
+/// Its menu.
+inline MenuModel ModelOf(const std::string& configuration,
+                         DesignedIn place = DesignedIn::Settings) {
+    return MakeMenuModel(DocumentOf(configuration), place);
 }
 
 /// A menu with so many commands before the exit, as the configuration would give it.

@@ -166,6 +166,19 @@ TEST(MenuLayout, KeepsTheExitBelowAScrollingColumn) {
     EXPECT_EQ(Menu(HarborLook(), 60, {400, 220}).layout.firstFixed, 61U);
 }
 
+TEST(MenuLayout, KeepsTheSoundBesideTheExit) {
+    Menu menu(NexusLook(), 60, {800, 500});
+    MenuCommand sound = menu.model.commands.back();
+    sound.kind = CommandKind::Sound;
+    menu.model.commands.insert(menu.model.commands.end() - 1, sound);
+    const MenuLayout layout = ArrangeMenu(menu.request);
+    EXPECT_EQ(layout.firstFixed, 60U);
+    EXPECT_GE(layout.buttons[60].y, layout.list.Bottom());
+    EXPECT_EQ(layout.buttons[61].y - layout.buttons[60].Bottom(), menu.look.buttonGap);
+    EXPECT_LE(layout.buttons[61].Bottom(), 500);
+    EXPECT_EQ(layout.groups.back().group, MenuGroup::Program);
+}
+
 TEST(MenuLayout, HitsOnlyWhatShows) {
     const Menu menu(HarborLook(), 60, {800, 500});
     const MenuLayout& layout = menu.layout;
@@ -230,6 +243,22 @@ TEST(MenuSelection, TellsAboutPointerOrKeyWhicheverCameLast) {
     EXPECT_TRUE(selection.PointerAt(std::nullopt));
     EXPECT_EQ(selection.Told(), std::nullopt);
     EXPECT_EQ(selection.Focused(), 4U);
+}
+
+TEST(MenuSelection, SaysOnceThatItCameToAButton) {
+    MenuSelection selection;
+    EXPECT_FALSE(selection.TakeArrival());
+    selection.PointerAt(2);
+    EXPECT_TRUE(selection.TakeArrival());
+    EXPECT_FALSE(selection.TakeArrival());
+    selection.FocusByKey(2); // the same one
+    EXPECT_FALSE(selection.TakeArrival());
+    selection.FocusByKey(3);
+    EXPECT_TRUE(selection.TakeArrival());
+    selection.PointerAt(std::nullopt);
+    EXPECT_FALSE(selection.TakeArrival());
+    selection.PointerAt(3);
+    EXPECT_TRUE(selection.TakeArrival());
 }
 
 TEST(MenuSelection, ClicksWhereItWasPressedAlone) {

@@ -42,6 +42,22 @@ TEST(MenuModel, HasTheCommandsInUseAndTheExitLast) {
     EXPECT_EQ(Captions(test::ModelOf("[Izvrsne komande]\n")), Texts{"Exit"});
 }
 
+TEST(MenuModel, HasAButtonForItsSound) {
+    const std::string sound = "[Izvrsne komande]\nSounddesctitle=Music\nSounddescription=On or "
+                              "off.\n[Dodatne komande]\naddname0=a\naddname1=b\n"
+                              "addStopBackgroundMusic1=1\n[Zvuk]\nFajl=a.mid\nKomanda=";
+    const MenuModel model = test::ModelOf(sound + "Tune\n");
+    EXPECT_EQ(Captions(model), (Texts{"a", "b", "Tune", "Exit"}));
+    EXPECT_EQ(model.commands[2].kind, CommandKind::Sound);
+    EXPECT_EQ(model.commands[2].group, MenuGroup::Program);
+    EXPECT_EQ(model.DescriptionOf(2).title, "Music");
+    EXPECT_EQ(model.DescriptionOf(2).text, "On or off.");
+    EXPECT_FALSE(model.commands[0].stopsSound);
+    EXPECT_TRUE(model.commands[1].stopsSound);
+    EXPECT_EQ(Captions(test::ModelOf(sound + "\n"))[2], "Sound on/off");
+    EXPECT_EQ(Captions(test::ModelOf("[Zvuk]\nKomanda=Tune\n")), Texts{"Exit"});
+}
+
 TEST(MenuModel, TakesEveryFormOfYesForClosing) {
     for (const char* yes : {"1", "-1", "True", "true", "Da", " 1 "}) {
         const auto model =
