@@ -1,12 +1,12 @@
 #include "window/background_player.h"
 
-#include "build/package_reader.h"
 #include "menu/unpacked_file.h"
 #include "window/mci_sound.h"
 #include "window/window_class.h"
 
 #include <atomic>
 #include <chrono>
+#include <exception>
 #include <future>
 #include <optional>
 #include <thread>
@@ -107,8 +107,7 @@ private:
                 file_.emplace(package_, spec_.file, [this] { return ending_.load(); });
             }
             sound_.emplace(file_->Path());
-        } catch (const PackageError&) {                      // NOLINT(bugprone-empty-catch)
-        } catch (const std::filesystem::filesystem_error&) { // NOLINT(bugprone-empty-catch)
+        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): it stays silent
         }
     }
 
