@@ -1,5 +1,6 @@
 #include "menu/picture_size.h"
 
+#include "menu/icon_picture.h"
 #include "menu/little_endian.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ public:
     [[nodiscard]] std::int32_t Little32(std::size_t position) const {
         return static_cast<std::int32_t>(tavmoor::Little32(bytes_, position));
     }
+    [[nodiscard]] std::string_view All() const { return bytes_; }
     [[nodiscard]] std::size_t Size() const { return bytes_.size(); }
     [[nodiscard]] bool StartsWith(std::string_view start) const {
         return bytes_.starts_with(start);
@@ -100,7 +102,50 @@ Measure JpegSize(const Bytes& bytes) {
     return {};
 }
 
+constexpr long long PixelsPerInch = 96;
+
+/// The frame of an emf file is told in hundredths of a millimetre.
+Measure EnhancedMetafileSize(const Bytes& bytes) {
+    constexpr long long unitsPerInch = 2540;
+    const auto pixels = [&](std::size_t from, std::size_t to) {
+        const long long length = static_cast<long long>(bytes.Little32(to)) - bytes.Little32(from);
+        return (length * PixelsPerInch + unitsPerInch / 2) / unitsPerInch;
+    };
+    return {pixels(24, 32), pixels(28, 36)};
+}
+
+/// A placeable wmf file tells its own units to the inch.
+Measure PlaceableMetafileSize(const Bytes& bytes) {
+    const long long unitsPerInch = bytes.Little16(14);
+    if (unitsPerInch == 0) {
+        return {};
+    }
+    const auto pixels = [&](std::size_t from, std::size_t to) {
+        const int length = static_cast<std::int16_t>(bytes.Little16(to)) -
+                           static_cast<std::int16_t>(bytes.Little16(from));
+        return (length * PixelsPerInch + unitsPerInch / 2) / unitsPerInch;
+    };
+    return {pixels(6, 10), pixels(8, 12)};
+}
+
+constexpr std::string_view PlaceableHead = "\xD7\xCD\xC6\x9A";
+
+bool IsEnhancedMetafile(std::string_view bytes) {
+    constexpr std::size_t signature = 40;
+    return bytes.starts_with(std::string_view("\1\0\0\0", 4)) && bytes.size() > signature &&
+           bytes.substr(signature).starts_with(" EMF");
+}
+
 Measure SizeOf(const Bytes& bytes) {
+    if (const auto icon = LargestOfIcon(bytes.All())) {
+        return {icon->size.width, icon->size.height};
+    }
+    if (bytes.StartsWith(PlaceableHead)) {
+        return PlaceableMetafileSize(bytes);
+    }
+    if (IsEnhancedMetafile(bytes.All())) {
+        return EnhancedMetafileSize(bytes);
+    }
     if (bytes.StartsWith("BM")) {
         return BitmapSize(bytes);
     }
@@ -118,6 +163,10 @@ std::optional<Extent> ReadPictureSize(std::string_view bytes) {
         return std::nullopt;
     }
     return Extent{static_cast<int>(size.width), static_cast<int>(size.height)};
+}
+
+bool IsMetafile(std::string_view bytes) {
+    return bytes.starts_with(PlaceableHead) || IsEnhancedMetafile(bytes);
 }
 
 } // namespace tavmoor

@@ -1,5 +1,6 @@
 #include "window/picture_store.h"
 
+#include "menu/icon_picture.h"
 #include "menu/picture_size.h"
 
 #include <optional>
@@ -26,10 +27,24 @@ bool HasReasonableSize(Gdiplus::Bitmap& bitmap) {
     return width > 0 && height > 0 && width <= MostPicturePixels / height;
 }
 
+/// Drawing commands become pixels once, in their own size, so that they are treated as all others.
+std::unique_ptr<Gdiplus::Bitmap> Rasterize(IStream& stream, Extent size) {
+    Gdiplus::Image drawing(&stream);
+    auto bitmap = std::make_unique<Gdiplus::Bitmap>(size.width, size.height, PixelFormat32bppPARGB);
+    Gdiplus::Graphics graphics(bitmap.get());
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    const Gdiplus::Status status = graphics.DrawImage(&drawing, 0, 0, size.width, size.height);
+    return status == Gdiplus::Ok ? std::move(bitmap) : nullptr;
+}
+
 std::optional<Decoded> Decode(AutorunDisc& disc, const std::string& name) {
-    const auto bytes = disc.ReadFile(name);
-    if (!bytes || !ReadPictureSize(*bytes)) {
+    auto bytes = disc.ReadFile(name);
+    const auto size = bytes ? ReadPictureSize(*bytes) : std::nullopt;
+    if (!size) {
         return std::nullopt;
+    }
+    if (const auto icon = LargestOfIcon(*bytes)) {
+        bytes = FileOf(*icon);
     }
     Decoded decoded;
     decoded.stream.reset(SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes->data()),
@@ -37,7 +52,11 @@ std::optional<Decoded> Decode(AutorunDisc& disc, const std::string& name) {
     if (!decoded.stream) {
         return std::nullopt;
     }
-    decoded.bitmap.reset(Gdiplus::Bitmap::FromStream(decoded.stream.get()));
+    if (IsMetafile(*bytes)) {
+        decoded.bitmap = Rasterize(*decoded.stream, *size);
+    } else {
+        decoded.bitmap.reset(Gdiplus::Bitmap::FromStream(decoded.stream.get()));
+    }
     if (!decoded.bitmap || decoded.bitmap->GetLastStatus() != Gdiplus::Ok ||
         !HasReasonableSize(*decoded.bitmap)) {
         return std::nullopt;

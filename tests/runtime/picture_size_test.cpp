@@ -1,5 +1,7 @@
 #include "menu/picture_size.h"
 
+#include "menu/icon_picture.h"
+
 #include <gtest/gtest.h>
 
 #include <initializer_list>
@@ -41,7 +43,46 @@ std::string Jpeg() {
                   0xC4, 0,    4,    0,    0, 0xFF, 0xC2, 0,    11, 8, 0x01, 0x2C, 0x02, 0x58});
 }
 
+/// An icon, kind 1, or a cursor, kind 2: a picture of 16 by 16 and `data` as a larger one.
+std::string Icon(int kind, int width, int height, const std::string& data) {
+    const std::string small = "small one";
+    const auto length = static_cast<std::uint32_t>(data.size());
+    return Bytes({0, 0, kind, 0, 2, 0, 16, 16}) + "colour" + Little32(9) + Little32(38) +
+           Bytes({width, height}) + "colour" + Little32(length) + Little32(47) + small + data;
+}
+
+/// An emf file of 10.16 by 5.08 cm.
+std::string EnhancedMetafile() {
+    return Little32(1) + std::string(20, 'b') + Little32(0xFFFFFFFF) + Little32(0) +
+           Little32(10159) + Little32(5080) + " EMF";
+}
+
+/// A wmf file of two by one inch.
+std::string PlaceableMetafile(int unitsPerInch) {
+    return Bytes({0xD7, 0xCD, 0xC6, 0x9A, 0, 0, 0x9C, 0xFF, 0, 0, 0x64, 0, 0x64, 0}) +
+           Bytes({unitsPerInch, 0}) + std::string(6, 'r');
+}
+
 } // namespace
+
+TEST(PictureSize, IsReadFromIconsAndMetafiles) {
+    EXPECT_EQ(ReadPictureSize(Icon(1, 48, 32, "pixels")), (Extent{48, 32}));
+    EXPECT_EQ(ReadPictureSize(Icon(2, 0, 0, "pixels")), (Extent{256, 256}));
+    EXPECT_EQ(ReadPictureSize(Icon(1, 48, 32, "pixels").substr(1)), std::nullopt);
+    EXPECT_EQ(ReadPictureSize(EnhancedMetafile()), (Extent{384, 192}));
+    EXPECT_EQ(ReadPictureSize(PlaceableMetafile(100)), (Extent{192, 96}));
+    EXPECT_EQ(ReadPictureSize(PlaceableMetafile(0)), std::nullopt);
+    EXPECT_TRUE(IsMetafile(EnhancedMetafile()) && IsMetafile(PlaceableMetafile(100)));
+    EXPECT_FALSE(IsMetafile(Bitmap(1, 1)));
+}
+
+TEST(IconPicture, BecomesAFileOfItsOwn) {
+    const std::string cursor = Icon(2, 48, 32, "pixels");
+    EXPECT_EQ(FileOf(*LargestOfIcon(cursor)),
+              Bytes({0, 0, 1, 0, 1, 0, 48, 32}) + "colour" + Little32(6) + Little32(22) + "pixels");
+    const std::string withPng = Icon(1, 0, 0, "\x89PNG and so on");
+    EXPECT_EQ(FileOf(*LargestOfIcon(withPng)), "\x89PNG and so on");
+}
 
 TEST(PictureSize, IsReadFromTheHead) {
     EXPECT_EQ(ReadPictureSize(Bitmap(640, 480)), (Extent{640, 480}));
@@ -64,7 +105,8 @@ TEST(PictureSize, RefusesWhatWouldFillTheMemory) {
 
 TEST(PictureSize, SurvivesEveryCut) {
     for (const std::string& whole :
-         {Bitmap(64, 64), Gif({0, 0, 0, 0, 16, 0, 8, 0}), Jpeg(), std::string("II*\0", 4)}) {
+         {Bitmap(64, 64), Gif({0, 0, 0, 0, 16, 0, 8, 0}), Jpeg(), Icon(1, 32, 32, "123456789"),
+          EnhancedMetafile(), std::string("II*\0", 4)}) {
         for (std::size_t length = 0; length + 9 < whole.size(); ++length) {
             EXPECT_EQ(ReadPictureSize(whole.substr(0, length)), std::nullopt) << length;
         }
