@@ -1,6 +1,7 @@
 #include "settings/program_settings_window.h"
 
 #include "core/build_folder.h"
+#include "services/autorun_check_window.h"
 #include "services/common_dialog.h"
 #include "services/path_box.h"
 #include "services/picture_button.h"
@@ -185,7 +186,8 @@ void Form3::OpenAutorunCheck() {
     bool& autoplayCheck = Session().settings.autoplayCheck;
     autoplayCheck = autoplayCheck || flags_.at(AutoplayFlag)->isChecked();
     shownAutoplayCheck_ = autoplayCheck;
-    const SkinnedWindow& check = Windows().Open(WindowName::Form13);
+    auto& check = static_cast<Form13&>(Windows().Open(WindowName::Form13));
+    check.TickWhenSet();
     // The system may leave this window inactive when that one goes.
     connect(&check, &SkinnedWindow::Unloaded, this, &Form3::ShowAutoplayCheck,
             Qt::UniqueConnection);

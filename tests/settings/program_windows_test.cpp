@@ -106,6 +106,18 @@ TEST_F(SmallWindows, TheCompressFolderIsTheChosenOneOrTheDefault) {
     EXPECT_EQ(dialogs.folders.at(0).title, QStringLiteral("Choose temporary compress folder..."));
 }
 
+TEST_F(SmallWindows, AnOpenCheckTakesOverTheTickOfTheSettings) {
+    session.settings.autoplayCheck = false;
+    auto& check = windows.Open(WindowName::Form13);
+    auto& form = Settings();
+    Tick(form, "Check4", true);
+    Click(form, "Command4");
+    EXPECT_TRUE(IsTicked(check, "Check1"));
+    Click(check, "Command1");
+    EXPECT_TRUE(session.settings.autoplayCheck);
+    EXPECT_TRUE(IsTicked(form, "Check4"));
+}
+
 TEST_F(SmallWindows, ACheckThatFindsAllInOrderEndsTheChecks) {
     SameRegistry registry;
     test::ScriptedBoxes boxes;
