@@ -16,6 +16,7 @@
 #include <QSpinBox>
 
 #include <limits>
+#include <optional>
 
 namespace tavmoor {
 
@@ -110,9 +111,13 @@ void ShowText(QWidget& control, const QString& text) {
     }
 }
 
-QString TypedText(const QWidget& control) {
+/// Nothing for what the document cannot say.
+std::optional<QString> TypedText(const QWidget& control) {
     if (const auto* memo = qobject_cast<const MemoBox*>(&control)) {
         return memo->ProjectText();
+    }
+    if (const auto* path = qobject_cast<const PathBox*>(&control)) {
+        return path->DocumentForm();
     }
     const auto* box = qobject_cast<const QLineEdit*>(&control);
     return box != nullptr ? box->text() : QString();
@@ -199,7 +204,9 @@ void ShowInControl(QWidget& control, const FieldBinding& row, ConstValueRef valu
 void TakeFromControl(const QWidget& control, const FieldBinding& row, ValueRef value) {
     switch (row.form) {
     case FieldForm::Text:
-        SetText(value, TypedText(control));
+        if (const auto text = TypedText(control)) {
+            SetText(value, *text);
+        }
         break;
     case FieldForm::Checked:
         SetNumber(value, qobject_cast<const QCheckBox*>(&control)->isChecked() ? 1 : 0);

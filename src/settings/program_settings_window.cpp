@@ -194,12 +194,16 @@ void Form3::OpenAutorunCheck() {
 }
 
 void Form3::Store() {
+    // A key that presses the button leaves the field as it was typed.
+    if (option2_->isChecked() && !text1_->TakeOverTyped()) {
+        text1_->setFocus();
+        return;
+    }
     ProgramSettings& settings = Session().settings;
     for (std::size_t i = 0; i < FlagCount; ++i) {
         settings.*FlagFields.at(i).flag = flags_.at(i)->isChecked();
     }
-    // A key that presses the button leaves the field as it was typed.
-    const std::string folder = FromQString(DocumentFormOf(text1_->text()).value_or(QString()));
+    const std::string folder = FromQString(text1_->text());
     settings.buildFolder =
         option2_->isChecked() && !folder.empty() ? folder : std::string(DefaultCompressFolder);
     Unload();

@@ -3,6 +3,7 @@
 #include "settings/panel.h"
 
 #include <string>
+#include <string_view>
 
 class QLabel;
 class QLayout;
@@ -27,7 +28,8 @@ private:
     /// One of the two chosen files, with the buttons that choose, play, silence and remove it.
     struct FileRow {
         const ButtonDescription& choose;
-        const char* label; ///< shows the path; files can be dropped on it
+        std::string_view filter; ///< of the file dialog, and of what can be dropped
+        const char* label;       ///< shows the path; files can be dropped on it
         const char* hear;
         const char* stop;
         const char* remove;
