@@ -93,7 +93,7 @@ Frame5::Frame5(ProgramContext context, MP3Play& player, QWidget* parent)
                       &Frame5::PickClick, &Frame5::TakeClick, &Frame5::PlayClick,
                       &Frame5::SilenceClick, &Frame5::ClearClick}));
     layout->addStretch(1);
-    Bind(SoundBindings);
+    connect(&Bind(SoundBindings), &FieldBinder::Stored, this, &Frame5::ShowRepeat);
 }
 
 QLayout* Frame5::MakeFileRows(const FileRow& row) {
@@ -150,16 +150,15 @@ QLayout* Frame5::MakeRepeatGrid() {
         value->setObjectName(QString::fromLatin1(text));
         // As wide as its longest text, so that the bars do not jump.
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance(RepeatText(MostRepeats)));
-        connect(bar, &QScrollBar::valueChanged, this, &Frame5::ShowRepeat);
         grid->addWidget(label, row, 0);
         grid->addWidget(bar, row, 1);
         grid->addWidget(value, row, 2);
         return value;
     };
-    repeat_ = new FocusedScrollBar("HScroll1", 1, MostRepeats, PageOfRepeats, Body());
-    pause_ = new FocusedScrollBar("HScroll2", 1, LongestPause, PageOfSeconds, Body());
-    repeatText_ = addRow(0, QStringLiteral("Repe&at"), repeat_, "Label31");
-    pauseText_ = addRow(1, QStringLiteral("Pa&use between repeat"), pause_, "Label33");
+    auto* repeat = new FocusedScrollBar("HScroll1", 1, MostRepeats, PageOfRepeats, Body());
+    auto* pause = new FocusedScrollBar("HScroll2", 1, LongestPause, PageOfSeconds, Body());
+    repeatText_ = addRow(0, QStringLiteral("Repe&at"), repeat, "Label31");
+    pauseText_ = addRow(1, QStringLiteral("Pa&use between repeat"), pause, "Label33");
     return grid;
 }
 
@@ -183,8 +182,9 @@ void Frame5::ShowDocument() {
 }
 
 void Frame5::ShowRepeat() {
-    repeatText_->setText(RepeatText(repeat_->value()));
-    pauseText_->setText(PauseText(pause_->value()));
+    // A file may have more than the bars can show.
+    repeatText_->setText(RepeatText(Document().Zvuk.Ponovi));
+    pauseText_->setText(PauseText(Document().Zvuk.Pauza));
 }
 
 void Frame5::PickBackground() {

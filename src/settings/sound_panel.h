@@ -7,7 +7,6 @@
 
 class QLabel;
 class QLayout;
-class QScrollBar;
 
 namespace tavmoor {
 
@@ -59,9 +58,7 @@ private:
     void ShowRepeat();
 
     MP3Play& player_;
-    QScrollBar* repeat_ = nullptr;
     QLabel* repeatText_ = nullptr;
-    QScrollBar* pause_ = nullptr;
     QLabel* pauseText_ = nullptr;
 };
 
