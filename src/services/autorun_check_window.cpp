@@ -95,8 +95,10 @@ QWidget* Form13::MakeButtons() {
     return row;
 }
 
-void Form13::OnLoad() {
-    check1_->setChecked(Session().settings.autoplayCheck);
+void Form13::TickWhenSet() {
+    if (Session().settings.autoplayCheck) {
+        check1_->setChecked(true);
+    }
 }
 
 void Form13::Check() {

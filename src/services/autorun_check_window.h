@@ -14,8 +14,11 @@ class Form13 final : public SkinnedWindow {
 public:
     explicit Form13(ProgramContext context);
 
+    /// Ticks the check box when the setting is on; for a window that is open already.
+    void TickWhenSet();
+
 protected:
-    void OnLoad() override;
+    void OnLoad() override { TickWhenSet(); }
     void OnUnload() override;
 
 private:

@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "services/color_box.h"
 #include "services/color_value.h"
+#include "services/font_spec.h"
 #include "services/path_box.h"
 #include "services/qt_text.h"
 #include "services/text_boxes.h"
@@ -16,6 +17,7 @@
 #include <QSpinBox>
 
 #include <limits>
+#include <optional>
 
 namespace tavmoor {
 
@@ -110,9 +112,13 @@ void ShowText(QWidget& control, const QString& text) {
     }
 }
 
-QString TypedText(const QWidget& control) {
+/// Nothing for what the document cannot say.
+std::optional<QString> TypedText(const QWidget& control) {
     if (const auto* memo = qobject_cast<const MemoBox*>(&control)) {
         return memo->ProjectText();
+    }
+    if (const auto* path = qobject_cast<const PathBox*>(&control)) {
+        return path->DocumentForm();
     }
     const auto* box = qobject_cast<const QLineEdit*>(&control);
     return box != nullptr ? box->text() : QString();
@@ -144,9 +150,22 @@ int GivenNumber(const QWidget& control) {
     return slider != nullptr ? slider->value() : 0;
 }
 
-void ShowFontStyle(QWidget& control, FieldForm form, bool on) {
+void ShowFont(QWidget& control, FieldForm form, ConstValueRef value) {
     QFont font = control.font();
-    form == FieldForm::BoldFont ? font.setBold(on) : font.setItalic(on);
+    switch (form) {
+    case FieldForm::BoldFont:
+        font.setBold(NumberOf(value) != 0);
+        break;
+    case FieldForm::ItalicFont:
+        font.setItalic(NumberOf(value) != 0);
+        break;
+    case FieldForm::FontName:
+        font.setFamily(TextOf(value));
+        break;
+    default:
+        font.setPointSize(FontPoints(FromQString(TextOf(value))));
+        break;
+    }
     control.setFont(font);
 }
 
@@ -191,7 +210,9 @@ void ShowInControl(QWidget& control, const FieldBinding& row, ConstValueRef valu
         break;
     case FieldForm::BoldFont:
     case FieldForm::ItalicFont:
-        ShowFontStyle(control, row.form, number != 0);
+    case FieldForm::FontName:
+    case FieldForm::FontSize:
+        ShowFont(control, row.form, value);
         break;
     }
 }
@@ -199,7 +220,9 @@ void ShowInControl(QWidget& control, const FieldBinding& row, ConstValueRef valu
 void TakeFromControl(const QWidget& control, const FieldBinding& row, ValueRef value) {
     switch (row.form) {
     case FieldForm::Text:
-        SetText(value, TypedText(control));
+        if (const auto text = TypedText(control)) {
+            SetText(value, *text);
+        }
         break;
     case FieldForm::Checked:
         SetNumber(value, qobject_cast<const QCheckBox*>(&control)->isChecked() ? 1 : 0);

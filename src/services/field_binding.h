@@ -28,6 +28,8 @@ enum class FieldForm : std::uint8_t {
     BackColor,  ///< the back colour of a control; the value is chosen elsewhere
     BoldFont,   ///< a control's own font is bold; the value is chosen elsewhere
     ItalicFont, ///< the same for italic
+    FontName,   ///< the same for the name
+    FontSize,   ///< the same for the size, in points
 };
 
 /// One row of a window's table: a control, how it shows a field, and the field.

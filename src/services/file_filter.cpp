@@ -1,8 +1,15 @@
 #include "services/file_filter.h"
 
+#include <QDir>
+
+#include <algorithm>
+
 namespace tavmoor {
 
 namespace {
+
+/// Takes names without a dot, too.
+constexpr QLatin1String AllFiles("*.*");
 
 QStringList PatternsOf(QStringView text) {
     QStringList patterns;
@@ -11,7 +18,7 @@ QStringList PatternsOf(QStringView text) {
             patterns << trimmed.toString();
         }
     }
-    return patterns.isEmpty() ? QStringList(QStringLiteral("*.*")) : patterns;
+    return patterns.isEmpty() ? QStringList(AllFiles) : patterns;
 }
 
 #ifdef Q_OS_WIN
@@ -22,7 +29,7 @@ QString PlatformPattern(const QString& pattern) {
 /// Some of the dialogs behind Qt tell upper from lower case, so each letter stands as a set of
 /// both.
 QString PlatformPattern(const QString& pattern) {
-    if (pattern == u"*.*") {
+    if (pattern == AllFiles) {
         return QStringLiteral("*");
     }
     QString both;
@@ -50,6 +57,12 @@ std::vector<FileFilter> ParseFilter(QStringView filter) {
         filters.push_back({parts[i].toString(), PatternsOf(patterns)});
     }
     return filters;
+}
+
+bool PassesFilters(const std::vector<FileFilter>& filters, const QString& fileName) {
+    return filters.empty() || std::ranges::any_of(filters, [&](const FileFilter& filter) {
+               return filter.patterns.contains(AllFiles) || QDir::match(filter.patterns, fileName);
+           });
 }
 
 QStringList QtNameFilters(const std::vector<FileFilter>& filters) {

@@ -17,6 +17,9 @@ struct FileFilter {
 /// name without patterns shows all files.
 std::vector<FileFilter> ParseFilter(QStringView filter);
 
+/// True when one of the filters shows a file of that name, and when there are none.
+bool PassesFilters(const std::vector<FileFilter>& filters, const QString& fileName);
+
 /// The filters as Qt's file dialogs take them. File names count without regard to case on every
 /// system, and "*.*" takes names without a dot, too.
 QStringList QtNameFilters(const std::vector<FileFilter>& filters);

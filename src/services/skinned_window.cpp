@@ -158,8 +158,19 @@ bool SkinnedWindow::event(QEvent* event) {
         OnActivate();
     } else if (event->type() == QEvent::WindowDeactivate && look_.closesWhenLeft) {
         Unload();
+    } else if (event->type() == QEvent::WindowBlocked && look_.keptOnTop) {
+        KeepOnTop(false);
+    } else if (event->type() == QEvent::WindowUnblocked && look_.keptOnTop) {
+        KeepOnTop(true);
     }
     return handled;
+}
+
+void SkinnedWindow::KeepOnTop(bool kept) {
+    // The widget's own flags would hide the window first.
+    if (windowHandle() != nullptr) {
+        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, kept);
+    }
 }
 
 void SkinnedWindow::closeEvent(QCloseEvent* event) {

@@ -32,7 +32,7 @@ struct WindowLook {
     const char16_t* title = u"";     ///< title strip and task bar
     const char* dragArea = "Image2"; ///< object name of the title strip; "" for a window without
     ChromeThirds chrome = UsualChrome;
-    bool keptOnTop = false;
+    bool keptOnTop = false;      ///< but not over dialogs and message boxes, which it could hide
     bool closesWhenLeft = false; ///< closes when another window becomes active
     bool escapeCloses = true;
 };
@@ -103,6 +103,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void KeepOnTop(bool kept);
     void PlaceBesideDesignPanel();
     void HideByUser();
     void PlaceChrome();

@@ -78,6 +78,7 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QListWidget:dis
 QListWidget:disabled { selection-background-color: @Border; selection-color: @QuietText; }
 QLabel[look="value"] { background: @Surface; border: 1px solid @Border; border-radius: 4px;
     padding: 2px 5px; }
+QLabel[look="sample"] { border: 1px solid @Border; padding: 4px 12px; }
 QLabel[look="note"] { color: @QuietText; }
 QLabel[refused="true"] { border: 2px solid @Refused; padding: 1px 4px; color: @Refused; }
 QProgressBar { background: @Surface; border: 1px solid @Border; border-radius: 4px;

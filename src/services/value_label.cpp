@@ -1,5 +1,6 @@
 #include "services/value_label.h"
 
+#include "services/refusal_mark.h"
 #include "services/theme.h"
 
 #include <QVariant>
@@ -13,9 +14,11 @@ ValueLabel::ValueLabel(const char* objectName, QWidget* parent) : QLabel(parent)
     setIndent(0); // the frame's padding is enough, and all of the width counts for the cut
     setMinimumHeight(theme::ControlHeight);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    new RefusalMark(*this);
 }
 
 void ValueLabel::SetFullText(const QString& text) {
+    findChild<RefusalMark*>()->Clear();
     full_ = text;
     setToolTip(text);
     ShowCut();

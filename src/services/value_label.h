@@ -5,7 +5,8 @@
 namespace tavmoor {
 
 /// Shows a value that is chosen elsewhere (a path, a font's name) in a frame; a text that is too
-/// long is cut in its middle, and the tooltip has all of it.
+/// long is cut in its middle, and the tooltip has all of it. Its refusal mark goes with the next
+/// text.
 class ValueLabel final : public QLabel {
     Q_OBJECT
 

@@ -34,9 +34,10 @@ constexpr WindowLook Form4Look{.name = WindowName::Form4,
 constexpr std::array CommandLabels{"Label93", "Label1", "Label2", "Label3", "Label4", "Label5"};
 
 constexpr std::string_view Section = "Opis komandi";
+constexpr std::string_view LookSection = "Izvrsne komande";
 
-/// The title and the text of one command after the other.
-constexpr std::array DescriptionBindings{
+/// The title and the text of one command after the other; then the look.
+constexpr std::array Fields{
     FieldBinding{"Text30", FieldForm::Text, Section, "C1"},
     FieldBinding{"Text31", FieldForm::Text, Section, "O1"},
     FieldBinding{"Text3", FieldForm::Text, Section, "C2"},
@@ -49,9 +50,13 @@ constexpr std::array DescriptionBindings{
     FieldBinding{"Text1", FieldForm::Text, Section, "O5"},
     FieldBinding{"Text7", FieldForm::Text, Section, "C6"},
     FieldBinding{"Text2", FieldForm::Text, Section, "O6"},
+    FieldBinding{"Label11", FieldForm::TextColor, LookSection, "Boja slova"},
+    FieldBinding{"Label11", FieldForm::BackColor, LookSection, "Boja pozadine komandi"},
+    FieldBinding{"Label11", FieldForm::FontName, LookSection, "Font"},
+    FieldBinding{"Label11", FieldForm::FontSize, LookSection, "Velicina"},
 };
 
-/// What the sample shows where the project says nothing.
+/// The look where the project says nothing.
 constexpr ColorValue UsualTextColor = 52479;
 constexpr ColorValue UsualBackColor = -2147483633; ///< the system's button face
 constexpr const char* UsualFont = "Ms Sans Serif";
@@ -90,7 +95,7 @@ Form4::Form4(ProgramContext context) : SkinnedWindow(context, Form4Look) {
     heading->setFont(theme::HeadingFont());
     layout->addWidget(heading);
     layout->addLayout(MakeLook());
-    binder_ = new FieldBinder(*this, Document(), DescriptionBindings, Storing::AtOnce);
+    binder_ = new FieldBinder(*this, Document(), Fields, Storing::AtOnce);
 }
 
 QLayout* Form4::MakeDescriptions() {
@@ -117,9 +122,9 @@ void Form4::AddRow(QGridLayout& grid, int row) {
     head->setProperty("look", QString());
     head->setFixedWidth(CommandWidth);
     head->SetFullText(command);
-    auto* title = new TextBox(DescriptionBindings.at(2 * index).control, Body());
+    auto* title = new TextBox(Fields.at(2 * index).control, Body());
     title->setAccessibleName(command + QStringLiteral(": Description title"));
-    auto* text = new MemoBox(DescriptionBindings.at(2 * index + 1).control, Body());
+    auto* text = new MemoBox(Fields.at(2 * index + 1).control, Body());
     text->setAccessibleName(command + QStringLiteral(": Detail description"));
     text->document()->setDocumentMargin(TextMargin);
     text->setFixedHeight(TextHeight);
@@ -147,8 +152,10 @@ QLayout* Form4::MakeLookButtons() {
     auto* fore = new PictureButton({"Command2", "palette", u"&Fore color"}, Body());
     auto* back = new PictureButton({"Command3", "palette", u"&Background color"}, Body());
     auto* font = new PictureButton({"Command4", "font", u"Fo&nt (name, size, effects)"}, Body());
-    connect(fore, &QAbstractButton::clicked, this, [this, fore] { ChooseColor(*fore, true); });
-    connect(back, &QAbstractButton::clicked, this, [this, back] { ChooseColor(*back, false); });
+    connect(fore, &QAbstractButton::clicked, this,
+            [this, fore] { ChooseColor(*fore, &CommandLook::Bojaslova); });
+    connect(back, &QAbstractButton::clicked, this,
+            [this, back] { ChooseColor(*back, &CommandLook::Bojapozadinekomandi); });
     connect(font, &QAbstractButton::clicked, this, &Form4::ChooseFont);
     for (auto* button : {fore, back, font}) {
         column->addWidget(button);
@@ -198,9 +205,9 @@ void Form4::showEvent(QShowEvent* event) {
 }
 
 void Form4::ShowDocument() {
+    CompleteLook();
     binder_->Show();
     ShowCommandTitles();
-    ShowLook();
 }
 
 void Form4::ShowCommandTitles() {
@@ -210,49 +217,40 @@ void Form4::ShowCommandTitles() {
     }
 }
 
-void Form4::ShowLook() {
-    const CommandLook& stored = Document().IzvrsneKomande;
-    // Bold, italic and underlined are not part of a project; they stay as they were chosen.
-    CommandButtonLook look = sample_->Look();
-    look.textColor = ParseColorText(stored.Bojaslova).value_or(UsualTextColor);
-    look.backColor = ParseColorText(stored.Bojapozadinekomandi).value_or(UsualBackColor);
-    look.font.name = stored.Font.empty() ? UsualFont : stored.Font;
-    look.font.size = RoundSize(stored.Velicina);
-    sample_->SetLook(look);
-}
-
-void Form4::OnHideByUser() {
-    StoreLook();
-}
-
-void Form4::StoreLook() {
-    const CommandButtonLook& look = sample_->Look();
-    CommandLook& stored = Document().IzvrsneKomande;
-    stored.Bojaslova = ColorText(look.textColor);
-    stored.Bojapozadinekomandi = ColorText(look.backColor);
-    stored.Font = look.font.name;
-    stored.Velicina = look.font.size;
-}
-
-void Form4::ChooseColor(const PictureButton& button, bool ofText) {
-    const auto color = PickColor(Context(), ColorMenuPlace(button), *this);
-    if (!color) {
-        return;
+void Form4::CompleteLook() {
+    CommandLook& look = Document().IzvrsneKomande;
+    if (!ParseColorText(look.Bojaslova)) {
+        look.Bojaslova = ColorText(UsualTextColor);
     }
-    CommandButtonLook look = sample_->Look();
-    (ofText ? look.textColor : look.backColor) = *color;
-    sample_->SetLook(look);
+    if (!ParseColorText(look.Bojapozadinekomandi)) {
+        look.Bojapozadinekomandi = ColorText(UsualBackColor);
+    }
+    if (look.Font.empty()) {
+        look.Font = UsualFont;
+    }
+    look.Velicina = RoundSize(look.Velicina);
+}
+
+void Form4::ChooseColor(const PictureButton& button, std::string CommandLook::*field) {
+    if (const auto color = PickColor(Context(), ColorMenuPlace(button), *this)) {
+        Document().IzvrsneKomande.*field = ColorText(*color);
+        binder_->Show();
+    }
 }
 
 void Form4::ChooseFont() {
-    CommandButtonLook look = sample_->Look();
-    const auto picked = PickFont(*this, {look.font, look.textColor});
+    CommandLook& look = Document().IzvrsneKomande;
+    FontSpec font = sample_->Effects();
+    font.name = look.Font;
+    font.size = look.Velicina;
+    const auto picked = PickFont(*this, {font, ParseColorText(look.Bojaslova).value_or(0)});
     if (!picked || picked->font.name.empty()) {
         return;
     }
-    look.font = picked->font;
-    look.font.strikeOut = false;
-    sample_->SetLook(look);
+    look.Font = picked->font.name;
+    look.Velicina = picked->font.size;
+    sample_->SetEffects(picked->font);
+    binder_->Show();
 }
 
 } // namespace tavmoor

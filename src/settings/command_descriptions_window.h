@@ -1,6 +1,9 @@
 #pragma once
 
+#include "core/project_document.h"
 #include "services/skinned_window.h"
+
+#include <string>
 
 class QGridLayout;
 class QLayout;
@@ -12,8 +15,7 @@ class FieldBinder;
 class PictureButton;
 
 /// `Form4`, the descriptions of the six fixed commands and the look of the menu's buttons. It is
-/// made once and hidden when it closes; each opening shows the document afresh. The descriptions
-/// are stored as they are typed, the look when the window closes.
+/// made once and hidden when it closes; each opening shows the document afresh.
 class Form4 final : public SkinnedWindow {
     Q_OBJECT
 
@@ -22,7 +24,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    void OnHideByUser() override;
 
 private:
     [[nodiscard]] QLayout* MakeDescriptions();
@@ -34,9 +35,9 @@ private:
 
     void ShowDocument();
     void ShowCommandTitles();
-    void ShowLook();
-    void StoreLook();
-    void ChooseColor(const PictureButton& button, bool ofText);
+    /// Gives the look of a project that says nothing of it its usual values.
+    void CompleteLook();
+    void ChooseColor(const PictureButton& button, std::string CommandLook::*field);
     void ChooseFont();
 
     FieldBinder* binder_ = nullptr;

@@ -1,6 +1,6 @@
 #include "settings/command_look_sample.h"
 
-#include "services/color_value.h"
+#include "services/font_spec.h"
 #include "services/theme.h"
 #include "services/twips.h"
 
@@ -18,18 +18,29 @@ constexpr int BottomLine = PixelsOf(3240);
 CommandLookSample::CommandLookSample(QWidget* parent)
     : QWidget(parent), sample_(new QLabel(QStringLiteral(" Sample "), this)) {
     sample_->setObjectName(QStringLiteral("Label11"));
+    sample_->setProperty("look", QStringLiteral("sample"));
     setFixedHeight(BottomLine + theme::Gap);
 }
 
-void CommandLookSample::SetLook(const CommandButtonLook& look) {
-    look_ = look;
-    // The font comes last: the program's style sheet takes its own back when the label gets one.
-    sample_->setStyleSheet(
-        QStringLiteral("color: %1; background-color: %2; border: 1px solid %3; padding: 4px 12px;")
-            .arg(ToQColor(look.textColor).name(), ToQColor(look.backColor).name(),
-                 theme::Border.name()));
-    sample_->setFont(ToQFont(look.font));
-    Place();
+void CommandLookSample::SetEffects(const FontSpec& font) {
+    QFont shown = sample_->font();
+    shown.setBold(font.bold);
+    shown.setItalic(font.italic);
+    shown.setUnderline(font.underline);
+    sample_->setFont(shown);
+}
+
+FontSpec CommandLookSample::Effects() const {
+    const QFont& shown = sample_->font();
+    return {{}, {}, shown.bold(), shown.italic(), shown.underline()};
+}
+
+bool CommandLookSample::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest) {
+        Place(); // the sample has another size
+    }
+    return handled;
 }
 
 void CommandLookSample::paintEvent(QPaintEvent* /*event*/) {

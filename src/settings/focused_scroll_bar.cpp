@@ -13,6 +13,8 @@ FocusedScrollBar::FocusedScrollBar(const char* objectName, int least, int most, 
     setRange(least, most);
     setPageStep(page);
     setFocusPolicy(Qt::StrongFocus);
+    // Scroll bars by themselves move their content by the keys, the number the other way.
+    setInvertedControls(false);
 }
 
 void FocusedScrollBar::paintEvent(QPaintEvent* event) {

@@ -49,6 +49,8 @@ constexpr PictureFieldDescription BackgroundPicture{.label = "Label11",
                                                     .title = "Choose autorun background picture...",
                                                     .filter = AutorunPictureFilter};
 
+constexpr std::string_view IconFilter = "Icons (*.ico)| *.ico";
+
 constexpr int IconSide = 32;
 constexpr int ColorBoxWidth = 120;
 constexpr int TemplateNameShare = 2;
@@ -172,7 +174,7 @@ QWidget* Frame2::MakeIconGroup() {
     row->addWidget(remove);
     connect(browse, &QAbstractButton::clicked, this, &Frame2::BrowseIcon);
     connect(remove, &QAbstractButton::clicked, this, [this] { StoreIcon({}); });
-    connect(new PathDrop(*path, PathKind::File), &PathDrop::Dropped, this,
+    connect(new PathDrop(*path, IconFilter), &PathDrop::Dropped, this,
             [this](const QString& dropped) {
                 if (const std::string icon = FromQString(dropped); !CheckFileName(this, icon)) {
                     StoreIcon(icon);
@@ -237,7 +239,7 @@ void Frame2::FocusCdFolder() {
 void Frame2::BrowseIcon() {
     const std::string& current = Document().OsnovniPodaci.Ikona;
     const auto path =
-        PickCheckedFile(*this, {"Choose icon...", "Icons (*.ico)| *.ico",
+        PickCheckedFile(*this, {"Choose icon...", IconFilter,
                                 current.empty() ? InProgramFolder(Session(), "Icons") : current});
     if (path) {
         StoreIcon(*path);

@@ -122,7 +122,15 @@ void Form1::OnLoad() {
     timer_.start(MenuInterval);
     keeper_.Start();
     // Once the window is seen.
-    QTimer::singleShot(0, this, [this] { commands_.OfferRecovered(); });
+    QTimer::singleShot(0, this, &Form1::AskAtStart);
+}
+
+void Form1::AskAtStart() {
+    commands_.OfferRecovered();
+    recoveryOffered_ = true;
+    if (isActiveWindow()) {
+        OpenDueAutorunCheck();
+    }
 }
 
 void Form1::DisableUnbuiltSteps() {
@@ -131,8 +139,9 @@ void Form1::DisableUnbuiltSteps() {
     EnableWhenStanding(column_->Button(NavigationStep::Fonts), Windows(), WindowName::Form9);
 }
 
-void Form1::OnActivate() {
-    if (Session().autorunCheckDue && Windows().Stands(WindowName::Form13)) {
+void Form1::OpenDueAutorunCheck() {
+    // One question after the other: that about recovery comes first.
+    if (recoveryOffered_ && Session().autorunCheckDue && Windows().Stands(WindowName::Form13)) {
         Session().autorunCheckDue = false;
         Windows().Open(WindowName::Form13);
     }
@@ -274,7 +283,13 @@ void Form1::StopSound() {
 void Form1::SetVisible(bool visible) {
     if (visible) {
         ShowDocument();
-        Present();
+        // A window that closed because the user went to another program must not call the user
+        // back.
+        if (QGuiApplication::applicationState() == Qt::ApplicationActive) {
+            Present();
+        } else {
+            show();
+        }
     } else {
         hide();
     }

@@ -50,7 +50,7 @@ public:
 
 protected:
     void OnLoad() override;
-    void OnActivate() override;
+    void OnActivate() override { OpenDueAutorunCheck(); }
     void OnUnload() override;
 
 private:
@@ -58,6 +58,8 @@ private:
     void MakeBottomRow();
     void MakeKeys();
     void OpenMenu(MenuSide side);
+    void AskAtStart();
+    void OpenDueAutorunCheck();
     void ServeStoredAction();
     void ShowBuildTooltip();
     void DisableUnbuiltSteps();
@@ -76,6 +78,7 @@ private:
     std::array<Panel*, PanelCount> panels_{};
     MP3Play* player_ = nullptr;
     QTimer timer_;
+    bool recoveryOffered_ = false;
 };
 
 } // namespace tavmoor

@@ -22,7 +22,7 @@ PictureField::PictureField(const PictureFieldDescription& description, ProgramCo
         {description.remove, "remove", u"", description.removeTooltip, ButtonLook::Icon}, this);
     connect(browse, &QAbstractButton::clicked, this, &PictureField::Browse);
     connect(remove, &QAbstractButton::clicked, this, [this] { Store({}); });
-    auto* drop = new PathDrop(*label, PathKind::File);
+    auto* drop = new PathDrop(*label, description.filter);
     connect(drop, &PathDrop::Dropped, this, [this](const QString& dropped) {
         TakePicture(context_, *this, FromQString(dropped),
                     [this](const std::string& taken) { Store(taken); });

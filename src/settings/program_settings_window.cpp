@@ -1,6 +1,7 @@
 #include "settings/program_settings_window.h"
 
 #include "core/build_folder.h"
+#include "services/autorun_check_window.h"
 #include "services/common_dialog.h"
 #include "services/path_box.h"
 #include "services/picture_button.h"
@@ -185,19 +186,24 @@ void Form3::OpenAutorunCheck() {
     bool& autoplayCheck = Session().settings.autoplayCheck;
     autoplayCheck = autoplayCheck || flags_.at(AutoplayFlag)->isChecked();
     shownAutoplayCheck_ = autoplayCheck;
-    const SkinnedWindow& check = Windows().Open(WindowName::Form13);
+    auto& check = static_cast<Form13&>(Windows().Open(WindowName::Form13));
+    check.TickWhenSet();
     // The system may leave this window inactive when that one goes.
     connect(&check, &SkinnedWindow::Unloaded, this, &Form3::ShowAutoplayCheck,
             Qt::UniqueConnection);
 }
 
 void Form3::Store() {
+    // A key that presses the button leaves the field as it was typed.
+    if (option2_->isChecked() && !text1_->TakeOverTyped()) {
+        text1_->setFocus();
+        return;
+    }
     ProgramSettings& settings = Session().settings;
     for (std::size_t i = 0; i < FlagCount; ++i) {
         settings.*FlagFields.at(i).flag = flags_.at(i)->isChecked();
     }
-    // A key that presses the button leaves the field as it was typed.
-    const std::string folder = FromQString(DocumentFormOf(text1_->text()).value_or(QString()));
+    const std::string folder = FromQString(text1_->text());
     settings.buildFolder =
         option2_->isChecked() && !folder.empty() ? folder : std::string(DefaultCompressFolder);
     Unload();

@@ -45,6 +45,9 @@ constexpr ButtonDescription ChooseClick{"Command33", "browse",
                                         u"Click here to choose one wa&v file",
                                         u"Choose sound file to play when user click on button"};
 
+constexpr std::string_view BackgroundFilter = "Sound files (Mp3, Wav, Mid)| *.mp3; *.wav; *.mid";
+constexpr std::string_view ClickFilter = "Wav files (.wav)| *.wav";
+
 constexpr int MostRepeats = 1000;
 constexpr int LongestPause = 60; // seconds
 
@@ -71,10 +74,10 @@ Frame5::Frame5(ProgramContext context, MP3Play& player, QWidget* parent)
     auto* layout = new QVBoxLayout(Body());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(theme::Margin);
-    layout->addLayout(
-        MakeFileRows({ChooseBackground, "Label34", "Command15", "Command16", "Command45",
-                      &Frame5::PickBackground, &Frame5::TakeBackground, &Frame5::PlayBackground,
-                      &Frame5::SilenceBackground, &Frame5::ClearBackground}));
+    layout->addLayout(MakeFileRows({ChooseBackground, BackgroundFilter, "Label34", "Command15",
+                                    "Command16", "Command45", &Frame5::PickBackground,
+                                    &Frame5::TakeBackground, &Frame5::PlayBackground,
+                                    &Frame5::SilenceBackground, &Frame5::ClearBackground}));
     auto* row = new QHBoxLayout;
     row->setSpacing(theme::Margin);
     row->addWidget(MakeStartBox());
@@ -85,11 +88,12 @@ Frame5::Frame5(ProgramContext context, MP3Play& player, QWidget* parent)
     auto* click = new QCheckBox(QStringLiteral("Sound on button clic&k/mouse move"), Body());
     click->setObjectName(QStringLiteral("Check15"));
     layout->addWidget(click);
-    layout->addLayout(MakeFileRows({ChooseClick, "Label78", "Command34", "Command35", "Command46",
-                                    &Frame5::PickClick, &Frame5::TakeClick, &Frame5::PlayClick,
-                                    &Frame5::SilenceClick, &Frame5::ClearClick}));
+    layout->addLayout(
+        MakeFileRows({ChooseClick, ClickFilter, "Label78", "Command34", "Command35", "Command46",
+                      &Frame5::PickClick, &Frame5::TakeClick, &Frame5::PlayClick,
+                      &Frame5::SilenceClick, &Frame5::ClearClick}));
     layout->addStretch(1);
-    Bind(SoundBindings);
+    connect(&Bind(SoundBindings), &FieldBinder::Stored, this, &Frame5::ShowRepeat);
 }
 
 QLayout* Frame5::MakeFileRows(const FileRow& row) {
@@ -102,7 +106,7 @@ QLayout* Frame5::MakeFileRows(const FileRow& row) {
     line->setSpacing(theme::Gap);
     auto* label = new ValueLabel(row.label, Body());
     label->setAccessibleName(choose->accessibleName());
-    connect(new PathDrop(*label, PathKind::File), &PathDrop::Dropped, this,
+    connect(new PathDrop(*label, row.filter), &PathDrop::Dropped, this,
             [this, take = row.take](const QString& path) { (this->*take)(FromQString(path)); });
     line->addWidget(label, 1);
     const auto addButton = [&](const ButtonDescription& description, void (Frame5::*action)()) {
@@ -146,16 +150,15 @@ QLayout* Frame5::MakeRepeatGrid() {
         value->setObjectName(QString::fromLatin1(text));
         // As wide as its longest text, so that the bars do not jump.
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance(RepeatText(MostRepeats)));
-        connect(bar, &QScrollBar::valueChanged, this, &Frame5::ShowRepeat);
         grid->addWidget(label, row, 0);
         grid->addWidget(bar, row, 1);
         grid->addWidget(value, row, 2);
         return value;
     };
-    repeat_ = new FocusedScrollBar("HScroll1", 1, MostRepeats, PageOfRepeats, Body());
-    pause_ = new FocusedScrollBar("HScroll2", 1, LongestPause, PageOfSeconds, Body());
-    repeatText_ = addRow(0, QStringLiteral("Repe&at"), repeat_, "Label31");
-    pauseText_ = addRow(1, QStringLiteral("Pa&use between repeat"), pause_, "Label33");
+    auto* repeat = new FocusedScrollBar("HScroll1", 1, MostRepeats, PageOfRepeats, Body());
+    auto* pause = new FocusedScrollBar("HScroll2", 1, LongestPause, PageOfSeconds, Body());
+    repeatText_ = addRow(0, QStringLiteral("Repe&at"), repeat, "Label31");
+    pauseText_ = addRow(1, QStringLiteral("Pa&use between repeat"), pause, "Label33");
     return grid;
 }
 
@@ -179,16 +182,16 @@ void Frame5::ShowDocument() {
 }
 
 void Frame5::ShowRepeat() {
-    repeatText_->setText(RepeatText(repeat_->value()));
-    pauseText_->setText(PauseText(pause_->value()));
+    // A file may have more than the bars can show.
+    repeatText_->setText(RepeatText(Document().Zvuk.Ponovi));
+    pauseText_->setText(PauseText(Document().Zvuk.Pauza));
 }
 
 void Frame5::PickBackground() {
     const std::string& current = Document().Zvuk.Fajl;
-    const auto path = PickFile(
-        *this,
-        {"Choose one music file...", "Sound files (Mp3, Wav, Mid)| *.mp3; *.wav; *.mid",
-         current.empty() ? Session().settings.lastSoundFolder : WithBackslash(FolderOf(current))});
+    const auto path = PickFile(*this, {"Choose one music file...", BackgroundFilter,
+                                       current.empty() ? Session().settings.lastSoundFolder
+                                                       : WithBackslash(FolderOf(current))});
     if (path) {
         TakeBackground(*path);
     }
@@ -197,7 +200,7 @@ void Frame5::PickBackground() {
 void Frame5::PickClick() {
     const std::string& current = Document().Zvuk.SignalFajl;
     const auto path =
-        PickFile(*this, {"Choose MOUSE OVER sound file...", "Wav files (.wav)| *.wav",
+        PickFile(*this, {"Choose MOUSE OVER sound file...", ClickFilter,
                          current.empty() ? InProgramFolder(Session(), "Sound\\Mouse over\\")
                                          : WithBackslash(FolderOf(current))});
     if (path) {

@@ -3,10 +3,10 @@
 #include "settings/panel.h"
 
 #include <string>
+#include <string_view>
 
 class QLabel;
 class QLayout;
-class QScrollBar;
 
 namespace tavmoor {
 
@@ -27,7 +27,8 @@ private:
     /// One of the two chosen files, with the buttons that choose, play, silence and remove it.
     struct FileRow {
         const ButtonDescription& choose;
-        const char* label; ///< shows the path; files can be dropped on it
+        std::string_view filter; ///< of the file dialog, and of what can be dropped
+        const char* label;       ///< shows the path; files can be dropped on it
         const char* hear;
         const char* stop;
         const char* remove;
@@ -57,9 +58,7 @@ private:
     void ShowRepeat();
 
     MP3Play& player_;
-    QScrollBar* repeat_ = nullptr;
     QLabel* repeatText_ = nullptr;
-    QScrollBar* pause_ = nullptr;
     QLabel* pauseText_ = nullptr;
 };
 

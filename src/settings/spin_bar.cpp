@@ -6,6 +6,7 @@ SpinBar::SpinBar(const char* objectName, int most, int page, QWidget* parent)
     : FocusedScrollBar(objectName, 0, most, page, parent) {
     setOrientation(Qt::Vertical);
     setInvertedAppearance(true);
+    setInvertedControls(true);
     connect(this, &QAbstractSlider::actionTriggered, this, &SpinBar::TurnAround);
 }
 

@@ -13,6 +13,8 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QRadioButton>
 #include <QSlider>
 #include <QtTest/QTest>
@@ -141,29 +143,81 @@ TEST_F(BoundFields, NativePathsAreTakenOverInDocumentForm) {
     binder->Show();
     path.setFocus();
     QTest::keyClicks(&path, QString::fromStdString(folder.Native().string()));
+    EXPECT_EQ(document.CdFolder(), folder.Document()) << "the field need not be left first";
     title.setFocus();
-    EXPECT_EQ(document.CdFolder(), folder.Document());
+    EXPECT_EQ(path.text().toStdString(), folder.Document());
 
     QTest::keyClick(&path, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(&path, QStringLiteral("D:\\disc"));
     QTest::keyClick(&path, Qt::Key_Return);
     EXPECT_EQ(document.CdFolder(), "D:\\disc") << "a document path stays as it is";
 
+    path.setFocus();
+    QTest::keyClick(&path, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&path, QStringLiteral("/a\\"));
+    title.setFocus();
+    EXPECT_EQ(document.CdFolder(), "Z:\\a") << "a path that the document cannot say";
+    EXPECT_TRUE(path.property("refused").toBool());
+    EXPECT_TRUE(path.toolTip().startsWith(QStringLiteral("\"/a\\\" cannot be used")));
+}
+
+TEST_F(BoundFields, DroppedPathsAreTakenWhenTheyAreOfTheKind) {
+    const test::TemporaryFolder folder;
     folder.Write("file", "x");
-    EXPECT_FALSE(test::DropPath(path, folder.Native("file"))) << "a file is no folder";
+    std::filesystem::create_directories(folder.Native("no\\name"));
+    binder->Show();
     EXPECT_TRUE(test::DropPath(path, folder.Native()));
     EXPECT_EQ(document.CdFolder(), folder.Document());
 
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(folder.Native().string() + '/'))});
-    const auto actions = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter({1, 1}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
-    QApplication::sendEvent(&path, &enter);
-    QDropEvent drop({1, 1}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    const auto drop = [&](const std::string& native) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(native))});
+        const auto actions = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter({1, 1}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&path, &enter);
+        QDropEvent event({1, 1}, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&path, &event);
+        EXPECT_EQ(event.dropAction(), Qt::CopyAction) << "after a move the source deletes its file";
+    };
+    EXPECT_FALSE(test::DropPath(path, folder.Native("file"))) << "a file is no folder";
+    drop(folder.Native("no\\name").string());
+    EXPECT_TRUE(path.property("refused").toBool());
+    EXPECT_EQ(document.CdFolder(), folder.Document());
     path.clear();
-    QApplication::sendEvent(&path, &drop);
-    EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "after a move the source deletes its file";
+    drop(folder.Native().string() + '/');
     EXPECT_EQ(path.text().toStdString(), folder.Document());
+    EXPECT_FALSE(path.property("refused").toBool());
+}
+
+TEST_F(BoundFields, PastedPathsReplaceTheTextAtOnce) {
+    binder->Show();
+    const auto pasted = [&](const auto& paste) {
+        path.setText(QStringLiteral("D:\\old"));
+        paste();
+        return document.CdFolder();
+    };
+    const auto byKeys = [&] { QTest::keyClick(&path, Qt::Key_V, Qt::ControlModifier); };
+    const auto byMenu = [&] {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, path.mapToGlobal(QPoint()));
+        QApplication::sendEvent(&path, &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        menu->setActiveAction(menu->actions().at(5));
+        QTest::keyClick(menu, Qt::Key_Return);
+    };
+    QClipboard& clipboard = *QApplication::clipboard();
+    clipboard.setText(QStringLiteral("/home/ana/disc\n"));
+    EXPECT_EQ(pasted(byKeys), "Z:\\home\\ana\\disc");
+    clipboard.setText(QStringLiteral("file:///home/ana/my%20disc"));
+    EXPECT_EQ(pasted(byMenu), "Z:\\home\\ana\\my disc");
+    auto* files = new QMimeData;
+    files->setUrls({QUrl(QStringLiteral("http://example.org/")),
+                    QUrl::fromLocalFile(QStringLiteral("/home/ana/a#b/")),
+                    QUrl::fromLocalFile(QStringLiteral("/home"))});
+    clipboard.setMimeData(files);
+    EXPECT_EQ(pasted(byKeys), "Z:\\home\\ana\\a#b");
+    clipboard.setText(QStringLiteral("er"));
+    EXPECT_EQ(pasted(byMenu), "D:\\older") << "a text that is no path goes where the cursor is";
 }
 #endif
 

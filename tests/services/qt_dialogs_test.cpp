@@ -97,6 +97,15 @@ protected:
     QtDialogs dialogs_;
 };
 
+TEST(FileFilters, PassNamesInAnyCaseAndAllFilesThoseWithoutADot) {
+    const auto sounds = ParseFilter(u"Sounds| *.mp3; *.wav|Icons (*.ico)|*.ico");
+    EXPECT_TRUE(PassesFilters(sounds, QStringLiteral("a.b.WAV")));
+    EXPECT_TRUE(PassesFilters(sounds, QStringLiteral("a.ico")));
+    EXPECT_FALSE(PassesFilters(sounds, QStringLiteral("mp3")));
+    EXPECT_FALSE(PassesFilters(sounds, QStringLiteral("a.mp3.txt")));
+    EXPECT_TRUE(PassesFilters(ParseFilter(u"All files (*.*)| *.*"), QStringLiteral("README")));
+}
+
 TEST_F(QtDialogsTest, OpenListsTheFilterInAnyCaseAndTheSidebar) {
     for (const char* name : {"a.tavp", "B.TAVP", "c.Tavp", "d.txt", "e"}) {
         folder_.Write(name, "");

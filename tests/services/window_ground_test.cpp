@@ -1,4 +1,5 @@
 #include "core/code_page.h"
+#include "services/message_box.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"
 #include "services/wait_loop.h"
@@ -10,6 +11,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
+#include <QWindow>
 #include <QtTest/QTest>
 
 namespace tavmoor {
@@ -139,6 +141,22 @@ TEST_F(WindowGround, AWindowOutlivesTheCodeThatWaitsInIt) {
     });
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
     EXPECT_TRUE(outlivedTheWait);
+}
+
+TEST_F(WindowGround, WhatIsKeptOnTopMakesWayForDialogs) {
+    PlainWindow window({session, windows}, {.name = WindowName::Form2, .keptOnTop = true});
+    window.show();
+    const auto isOnTop = [&] {
+        return window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    EXPECT_TRUE(isOnTop());
+    QTimer::singleShot(0, &window, [&] {
+        EXPECT_FALSE(isOnTop());
+        QApplication::activeModalWidget()->close();
+    });
+    ShowMessageBox(nullptr, {QStringLiteral("text"), {}});
+    EXPECT_TRUE(isOnTop());
+    EXPECT_TRUE(window.isVisible());
 }
 
 TEST_F(WindowGround, ButtonsOfWindowsThatDoNotStandSaySo) {

@@ -133,7 +133,7 @@ TEST_F(AutorunInfoPanel, TheLogoPictureIsChosenDroppedAndRemoved) {
     test::ScriptedBoxes boxes;
     session.settings.previewPictures = false;
     folder.Write("logo.png", "any");
-    folder.Write("second.png", "any");
+    folder.Write("second.bmp", "any");
     dialogs.AnswerFile(folder.Document("logo.png"));
     dialogs.AnswerFile("");
     auto& panel = Open();
@@ -149,8 +149,8 @@ TEST_F(AutorunInfoPanel, TheLogoPictureIsChosenDroppedAndRemoved) {
     EXPECT_EQ(session.settings.lastPictureFolder, folder.Document() + "\\");
     Click(panel, "Command12");
     EXPECT_EQ(Value(panel, "Label16"), ToQString(folder.Document("logo.png"))) << "cancelled";
-    EXPECT_TRUE(Drop(Find(panel, "Label16"), folder.Native("second.png")));
-    EXPECT_EQ(Value(panel, "Label16"), ToQString(folder.Document("second.png")));
+    EXPECT_TRUE(Drop(Find(panel, "Label16"), folder.Native("second.bmp")));
+    EXPECT_EQ(Value(panel, "Label16"), ToQString(folder.Document("second.bmp")));
     Click(panel, "Command55");
     EXPECT_EQ(Texts().Logoslika, "");
     EXPECT_EQ(Value(panel, "Label16"), QString());

@@ -45,7 +45,7 @@ protected:
     CommandLook& Stored() { return Document().IzvrsneKomande; }
 };
 
-TEST_F(CommandDescriptions, StoresTextsAtOnceAndTheLookOnClosing) {
+TEST_F(CommandDescriptions, StoresTextsAndLook) {
     Stored().Komande[1].Opis = "Install";
     Stored().Komande[6].Opis = "Mail";
     Stored().Velicina = "11.5";
@@ -67,7 +67,6 @@ TEST_F(CommandDescriptions, StoresTextsAtOnceAndTheLookOnClosing) {
     EXPECT_EQ(Color(sample, QPalette::WindowText), 255);
     EXPECT_EQ(Color(sample, QPalette::Window), 65280);
     EXPECT_EQ(sample.font().pointSize(), 12);
-    EXPECT_EQ(Stored().Bojaslova, "-2147483630");
     Click(window, "Command43");
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(windows.Main()->IsVisible());
@@ -84,11 +83,19 @@ TEST_F(CommandDescriptions, OpensAgainWithTheDocumentThatIsOpenNow) {
     session.document = NewProjectDocument();
     Stored().Komande[2].Opis = "New title";
     Stored().Bojaslova.clear();
+    Stored().Bojapozadinekomandi.clear();
+    Stored().Font.clear();
+    Stored().Velicina.clear();
     auto& window = Open();
     EXPECT_EQ(&window, &first);
     EXPECT_EQ(Find<QLineEdit>(window, "Text30").text(), QString());
     EXPECT_EQ(Find<ValueLabel>(window, "Label1").FullText(), QStringLiteral("New title"));
     EXPECT_EQ(Color(Find<QLabel>(window, "Label11"), QPalette::WindowText), 52479);
+    window.close();
+    EXPECT_EQ(Stored().Bojaslova, "52479");
+    EXPECT_EQ(Stored().Bojapozadinekomandi, "-2147483633");
+    EXPECT_EQ(Stored().Font, "Ms Sans Serif");
+    EXPECT_EQ(Stored().Velicina, "10");
 }
 
 TEST_F(CommandDescriptions, AFontKeepsTheSamplesBottom) {

@@ -64,13 +64,13 @@ TEST_F(MainSettingsPanel, TheBackgroundIsChosenDroppedAndRemoved) {
     EXPECT_EQ(stored, first);
     EXPECT_EQ(Shown("Label11").toStdString(), first);
 
-    WritePicture("a,b.png");
-    EXPECT_TRUE(Drop(Find(form, "Label11"), folder.Native("a,b.png")));
+    WritePicture("a,b.bmp");
+    EXPECT_TRUE(Drop(Find(form, "Label11"), folder.Native("a,b.bmp")));
     EXPECT_EQ(boxes.shown.size(), 1U) << "the name check";
     EXPECT_EQ(stored, first);
 
-    const std::string second = WritePicture("second.png");
-    EXPECT_TRUE(Drop(Find(form, "Label11"), folder.Native("second.png")));
+    const std::string second = WritePicture("second.bmp");
+    EXPECT_TRUE(Drop(Find(form, "Label11"), folder.Native("second.bmp")));
     EXPECT_EQ(stored, second);
     Click(form, "Command51");
     EXPECT_EQ(stored, "");
@@ -97,6 +97,8 @@ TEST_F(MainSettingsPanel, TheIconBeginsInItsFolderAndLoadErrorsAreIgnored) {
     EXPECT_EQ(stored, icon) << "cancelled";
     EXPECT_EQ(dialogs.opened.at(1).folder.toStdString(), folder.Native().string());
 
+    WritePicture("picture.png");
+    EXPECT_FALSE(Drop(Find(form, "Label35"), folder.Native("picture.png")));
     folder.Write("broken.ico", "no icon");
     EXPECT_TRUE(Drop(Find(form, "Label35"), folder.Native("broken.ico")));
     EXPECT_EQ(stored, folder.Document("broken.ico"));

@@ -32,6 +32,33 @@ TEST_F(MainWindow, StepsWithoutATemplateOfferTheTemplateWindowAndGoNoFurther) {
     EXPECT_EQ(form.findChild<QWidget*>(QStringLiteral("Frame3")), nullptr);
 }
 
+TEST_F(MainWindow, TheDueAutorunCheckWaitsForTheAnswerAboutRecovery) {
+    class Answerer final : public MessageBoxResponder {
+    public:
+        explicit Answerer(std::function<void()> look) : look_(std::move(look)) {}
+        BoxAnswer Answer(const MessageBoxRequest& /*request*/) override {
+            look_();
+            return BoxAnswer::No;
+        }
+
+    private:
+        std::function<void()> look_;
+        ScopedService<MessageBoxResponder> slot_{*this};
+    };
+    int asked = 0;
+    const Answerer answerer([&] {
+        ++asked;
+        Settle(); // the window becomes active
+        EXPECT_EQ(Shown(WindowName::Form13), nullptr);
+    });
+    session.recoveredProject = folder.Write("kept.tavp", "x");
+    session.autorunCheckDue = true;
+    Main();
+    Settle();
+    EXPECT_EQ(asked, 1);
+    EXPECT_NE(Shown(WindowName::Form13), nullptr);
+}
+
 TEST_F(MainWindow, TheTabKeyGoesFromTheMenusOverTheStepsAndThePanelToTheHelp) {
     auto& form = static_cast<Form1&>(Main());
     EXPECT_EQ(form.focusWidget(), &Find(form, "Command7"));

@@ -106,6 +106,31 @@ TEST_F(SmallWindows, TheCompressFolderIsTheChosenOneOrTheDefault) {
     EXPECT_EQ(dialogs.folders.at(0).title, QStringLiteral("Choose temporary compress folder..."));
 }
 
+#ifndef _WIN32
+TEST_F(SmallWindows, ACompressFolderThatCannotBeStoredKeepsTheSettingsOpen) {
+    auto& form = Settings();
+    Type(form, "Text1", QStringLiteral("/a\\b"));
+    PressKey(Find(form, "Text1"), Qt::Key_Return);
+    ASSERT_NE(Shown(WindowName::Form3), nullptr);
+    EXPECT_TRUE(Find(form, "Text1").property("refused").toBool());
+    Tick(form, "Option1", true);
+    Click(form, "Command2");
+    EXPECT_EQ(Shown(WindowName::Form3), nullptr) << "the default folder can be stored";
+}
+#endif
+
+TEST_F(SmallWindows, AnOpenCheckTakesOverTheTickOfTheSettings) {
+    session.settings.autoplayCheck = false;
+    auto& check = windows.Open(WindowName::Form13);
+    auto& form = Settings();
+    Tick(form, "Check4", true);
+    Click(form, "Command4");
+    EXPECT_TRUE(IsTicked(check, "Check1"));
+    Click(check, "Command1");
+    EXPECT_TRUE(session.settings.autoplayCheck);
+    EXPECT_TRUE(IsTicked(form, "Check4"));
+}
+
 TEST_F(SmallWindows, ACheckThatFindsAllInOrderEndsTheChecks) {
     SameRegistry registry;
     test::ScriptedBoxes boxes;

@@ -3,6 +3,7 @@
 #include "services/media_device.h"
 #include "services/value_label.h"
 #include "settings/main_window.h"
+#include "support/user_input.h"
 
 #include <QAbstractSlider>
 #include <QCheckBox>
@@ -60,12 +61,25 @@ TEST_F(SoundPanel, EditsRepeatPauseStartAndCaption) {
     set("HScroll2", 0);
     EXPECT_EQ(Sound().Ponovi, 1000);
     EXPECT_EQ(Sound().Pauza, 1);
+    PressKey(Find(panel, "HScroll1"), Qt::Key_Left);
+    EXPECT_EQ(text("Label31"), "999 times");
+    PressKey(Find(panel, "HScroll2"), Qt::Key_Right);
+    EXPECT_EQ(Sound().Pauza, 2);
     Click(panel, "Option2");
     EXPECT_TRUE(Sound().Akcija);
     Click(panel, "Option1");
     EXPECT_FALSE(Sound().Akcija);
     Type(panel, "Text10", QStringLiteral("Music"));
     EXPECT_EQ(Sound().Komanda, "Music");
+}
+
+TEST_F(SoundPanel, TellsNumbersThatTheBarsCannotShow) {
+    Sound().Ponovi = 5000;
+    Sound().Pauza = 90;
+    auto& panel = Panel();
+    EXPECT_EQ(Find<QLabel>(panel, "Label31").text(), QStringLiteral("5000 times"));
+    EXPECT_EQ(Find<QLabel>(panel, "Label33").text(), QStringLiteral("90 seconds"));
+    EXPECT_EQ(Sound().Ponovi, 5000);
 }
 
 TEST_F(SoundPanel, ChoosesTheBackgroundSound) {
@@ -86,9 +100,23 @@ TEST_F(SoundPanel, ChoosesTheBackgroundSound) {
     EXPECT_EQ(Sound().Fajl, song);
     EXPECT_EQ(Find<ValueLabel>(panel, "Label34").FullText().toStdString(), song);
     EXPECT_EQ(session.settings.lastSoundFolder, folder.Document("a") + "\\");
-    EXPECT_TRUE(Drop(Find(panel, "Label34"), folder.Native("a/so$ng.mp3")));
+    auto& label = Find<ValueLabel>(panel, "Label34");
+    EXPECT_TRUE(test::DropPath(label, folder.Native("a/so$ng.mp3")));
+    EXPECT_EQ(boxes.shown.size(), 1U) << "a box within the drop would hold its source";
+    Settle();
     EXPECT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(Sound().Fajl, song);
+    folder.Write("song.exe", "x");
+    EXPECT_FALSE(Drop(label, folder.Native("song.exe")));
+#ifndef _WIN32
+    std::filesystem::copy_file(folder.Native("a/song.mp3"), folder.Native("so\\ng.MP3"));
+    EXPECT_TRUE(Drop(label, folder.Native("so\\ng.MP3")));
+    EXPECT_TRUE(label.property("refused").toBool());
+    EXPECT_EQ(Sound().Fajl, song);
+#endif
+    EXPECT_TRUE(Drop(label, folder.Native("a/song.mp3")));
+    EXPECT_FALSE(label.property("refused").toBool());
+    EXPECT_EQ(label.toolTip().toStdString(), song);
     Click(panel, "Command45");
     EXPECT_EQ(Sound().Fajl, "");
 }
