@@ -157,31 +157,6 @@ RasterOutline OutlineGif(std::string_view bytes) {
     return outline;
 }
 
-RasterOutline OutlineIcon(std::string_view bytes) {
-    constexpr int WantedWidth = 32;
-    constexpr std::size_t EntryBytes = 16;
-    const ByteView view(bytes);
-    RasterOutline outline;
-    // The pixels are decoded before the mask is laid in.
-    outline.bytesPerPixel = DoublePixel;
-    int nearest = -1;
-    const int count = view.U16(4);
-    for (int i = 0; i < count; ++i) {
-        const std::size_t at = 6 + EntryBytes * static_cast<std::size_t>(i);
-        if (!view.Has(view.U32(at + 12), view.U32(at + 8)) || view.U32(at + 8) == 0) {
-            return outline;
-        }
-        const int width = view.U8(at) == 0 ? 256 : view.U8(at);
-        const int distance = std::abs(width - WantedWidth);
-        if (nearest < 0 || distance < nearest) {
-            nearest = distance;
-            outline.index = i;
-        }
-    }
-    outline.whole = count > 0;
-    return outline;
-}
-
 } // namespace
 
 RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes) {
@@ -194,10 +169,9 @@ RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes) {
         return OutlineGif(bytes);
     case PictureFormat::Icon:
     case PictureFormat::Cursor:
-        return OutlineIcon(bytes);
     case PictureFormat::Png:
-        // Its decoder finds what is missing by itself.
-        return {true, DoublePixel, 0};
+        // Their decoders find what is missing by themselves.
+        return {true, DoublePixel};
     case PictureFormat::Wmf:
     case PictureFormat::Emf:
     case PictureFormat::Unknown:

@@ -14,8 +14,6 @@ struct RasterOutline {
     bool whole = false;
     /// Memory that decoding takes at most for each pixel.
     std::uint32_t bytesPerPixel = 4;
-    /// Which of several pictures to take: of icons and cursors the one nearest to 32 by 32.
-    int index = 0;
 };
 
 RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes);

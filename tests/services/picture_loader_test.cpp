@@ -208,6 +208,34 @@ TEST_F(PictureLoaderTest, RefusesJpgsOfTooManyScansOrTooMuchInThem) {
     EXPECT_EQ(PictureSize(path), std::nullopt);
 }
 
+TEST_F(PictureLoaderTest, DecodesNothingOfAPngButItsPixels) {
+    QImage talkative = Sample();
+    talkative.setText(QStringLiteral("Title"), QString(100'000, u'a'));
+    const std::string png = Encoded("PNG", talkative);
+    ASSERT_NE(png.find("Title"), std::string::npos);
+    const auto length = static_cast<std::int64_t>(png.size());
+    const std::string icon = Words({0, 1, 1, 32 + 32 * 256, 0, 1, 32}) + Longs({length, 22}) + png;
+    for (const std::string& file : {png, icon}) {
+        const PictureResult result = Load(file);
+        ASSERT_EQ(result.fault, PictureFault::None);
+        EXPECT_EQ(result.image.convertToFormat(QImage::Format_RGB32), Sample());
+        EXPECT_TRUE(result.image.textKeys().isEmpty());
+    }
+    std::string endless = png;
+    endless.replace(33, 4, "\xFF\xFF\xFF\xFF");
+    EXPECT_EQ(FaultOf(endless), PictureFault::Damaged);
+}
+
+TEST_F(PictureLoaderTest, TakesTheNearestPictureOfAnIconTheLargerOfTwo) {
+    const auto width = [&](int side, const std::string& icon) {
+        return LoadPicture(folder_.Write("a.ico", icon), side).image.width();
+    };
+    const std::string icon = Icons(1, {{24, Red}, {40, Red}, {16, Red}});
+    EXPECT_EQ(width(16, icon), 16);
+    EXPECT_EQ(width(32, icon), 40);
+    EXPECT_EQ(width(32, Icons(2, {{40, Red}, {24, Red}})), 40);
+}
+
 TEST_F(PictureLoaderTest, SurvivesHostileMetafiles) {
     // Counts that go far beyond their records.
     EXPECT_EQ(FaultOf(Wmf(9, 9,
