@@ -157,6 +157,9 @@ private:
         return word;
     }
     void Symbol(char symbol) {
+        if (symbol != '\'' && IsReplaced()) {
+            return;
+        }
         switch (symbol) {
         case '\'':
             HexByte();
@@ -201,12 +204,13 @@ private:
         TakeByte(static_cast<unsigned char>(high * 16 + low));
     }
     void Word(const ControlWord& word) {
+        const bool isReplaced = IsReplaced();
         if (word.name == "bin") {
             at_ += std::min(static_cast<std::size_t>(std::max(0, word.NumberOr(0))),
                             bytes_.size() - at_);
             return;
         }
-        if (state_.destination == Destination::Skipped) {
+        if (isReplaced || state_.destination == Destination::Skipped) {
             return;
         }
         if (std::find(SkippedGroups.begin(), SkippedGroups.end(), word.name) !=
@@ -228,7 +232,19 @@ private:
         }
     }
 
+    /// True for what stands there for readers that cannot take the Unicode character before it. A
+    /// word or a symbol counts as one character.
+    bool IsReplaced() {
+        if (unicodeSkip_ == 0) {
+            return false;
+        }
+        --unicodeSkip_;
+        return true;
+    }
     void TakeByte(unsigned char byte) {
+        if (IsReplaced()) {
+            return;
+        }
         TakeCharacter(byte < 0x80 ? byte : CurrentCodePage().ToUnicode(byte));
     }
     const CodePage& CurrentCodePage() {
@@ -242,10 +258,6 @@ private:
         return *page;
     }
     void TakeCharacter(char32_t character) {
-        if (unicodeSkip_ > 0) {
-            --unicodeSkip_;
-            return;
-        }
         switch (state_.destination) {
         case Destination::Text:
             AppendUtf8(CurrentRun().text, character);
@@ -338,7 +350,6 @@ private:
     /// Characters beyond the first plane come as two numbers, which are put together here.
     void Unicode(const ControlWord& word) {
         auto unit = static_cast<char32_t>(word.NumberOr(0)) & 0xFFFFU;
-        unicodeSkip_ = 0;
         if (unit >= 0xD800 && unit < 0xDC00) {
             highSurrogate_ = unit;
         } else if (unit >= 0xDC00 && unit < 0xE000) {

@@ -64,6 +64,23 @@ TEST(RichTextParser, ReadsTextFormatsAndTables) {
     EXPECT_FALSE(ParseRichText("plain text"));
 }
 
+TEST(RichTextParser, PassesOverWhatStandsForAUnicodeCharacter) {
+    for (const auto& [rtf, text] : {std::pair<std::string, std::string>{"\\u8364?x", "€x"},
+                                    {"\\u8364\\'80x", "€x"},
+                                    {"\\u8364\\par x", "€x"},
+                                    {"\\u8364\\~x", "€x"},
+                                    {"\\u8364\\bin3 }}}x", "€x"},
+                                    {"\\uc2\\u8364\\bullet ?x", "€x"},
+                                    {"\\uc0\\u8364\\u8364 x", "€€x"},
+                                    {"{\\u8364}x", "€x"}}) {
+        const auto parsed = ParseRichText("{\\rtf1 " + rtf + "}");
+        ASSERT_EQ(parsed->paragraphs.size(), 1U) << rtf;
+        EXPECT_EQ(TextOf(parsed->paragraphs[0]), text) << rtf;
+    }
+    const auto parsed = ParseRichText("{\\rtf1\\u8364\\b x}");
+    EXPECT_FALSE(parsed->paragraphs.at(0).runs.at(0).format.bold);
+}
+
 TEST(RichTextReader, FillsADocument) {
     const test::TemporaryFolder folder;
     QTextDocument document(QStringLiteral("old"));
