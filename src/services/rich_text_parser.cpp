@@ -14,6 +14,9 @@ namespace {
 constexpr std::size_t MostDepth = 200;
 constexpr std::size_t MostParagraphs = 20'000;
 constexpr std::size_t MostRuns = 100'000;
+constexpr int MostCharacters = 1'000'000;
+/// A view lays out no less than a whole paragraph at a time.
+constexpr int MostParagraphCharacters = 10'000;
 constexpr std::size_t MostTabs = 32;
 constexpr std::size_t MostTableEntries = 4096;
 constexpr std::size_t MostNameBytes = 256;
@@ -260,7 +263,7 @@ private:
     void TakeCharacter(char32_t character) {
         switch (state_.destination) {
         case Destination::Text:
-            AppendUtf8(CurrentRun().text, character);
+            TakeText(character);
             break;
         case Destination::FontTable:
             TakeFontName(character);
@@ -272,10 +275,18 @@ private:
             break;
         }
     }
+    void TakeText(char32_t character) {
+        if (paragraphCharacters_ == MostParagraphCharacters) {
+            EndParagraph();
+        }
+        AppendUtf8(CurrentRun().text, character);
+        ++paragraphCharacters_;
+        isFull_ = ++characters_ >= MostCharacters || isFull_;
+    }
     RichTextRun& CurrentRun() {
         auto& runs = paragraph_.runs;
         if (runs.empty() || runs.back().format != state_.format) {
-            isFull_ = ++runCount_ >= MostRuns;
+            isFull_ = ++runCount_ >= MostRuns || isFull_;
             runs.push_back({{}, state_.format});
         }
         return runs.back();
@@ -302,6 +313,7 @@ private:
         paragraph_.format = state_.paragraph;
         document_.paragraphs.push_back(std::move(paragraph_));
         paragraph_ = {};
+        paragraphCharacters_ = 0;
         isFull_ = isFull_ || document_.paragraphs.size() >= MostParagraphs;
     }
 
@@ -404,6 +416,8 @@ private:
     std::size_t depthBeyond_ = 0;
     RichText document_;
     RichTextParagraph paragraph_;
+    int paragraphCharacters_ = 0;
+    int characters_ = 0;
     std::size_t runCount_ = 0;
     bool isFull_ = false;
     int ansiCodePage_ = 1252;

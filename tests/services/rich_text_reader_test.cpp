@@ -124,6 +124,17 @@ TEST(RichTextParser, SurvivesAnyBytes) {
     }
 }
 
+TEST(RichTextParser, CutsLongTextsAndBreaksLongParagraphs) {
+    const auto exact = ParseRichText("{\\rtf1 " + std::string(10'000, 'x') + "\\par y}");
+    EXPECT_EQ(exact->paragraphs.size(), 2U);
+    const auto parsed = ParseRichText("{\\rtf1\\qc " + std::string(1'200'000, 'x') + "}");
+    ASSERT_EQ(parsed->paragraphs.size(), 100U);
+    for (const RichTextParagraph& paragraph : parsed->paragraphs) {
+        EXPECT_EQ(TextOf(paragraph).size(), 10'000U);
+        EXPECT_EQ(paragraph.format.alignment, RichTextAlignment::Centre);
+    }
+}
+
 TEST(RichTextParser, StaysLinearAndBounded) {
     constexpr std::size_t Bytes = 1'000'000;
     for (const std::string_view piece :
