@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t MostDepth = 200;
 constexpr std::size_t MostParagraphs = 20'000;
-constexpr std::size_t MostRuns = 100'000;
+constexpr std::size_t MostRuns = 10'000; // each may take a font of its own, some 0.5 ms
 constexpr int MostCharacters = 1'000'000;
 /// A view lays out no less than a whole paragraph at a time.
 constexpr int MostParagraphCharacters = 10'000;
