@@ -22,9 +22,12 @@ public:
     [[nodiscard]] std::uint16_t U16(std::size_t at) const noexcept {
         return static_cast<std::uint16_t>(U8(at) | U8(at + 1) << 8U);
     }
-    /// The order of bytes in jpg files.
+    /// The order of bytes in jpg and png files.
     [[nodiscard]] std::uint16_t BigU16(std::size_t at) const noexcept {
         return static_cast<std::uint16_t>(U8(at) << 8U | U8(at + 1));
+    }
+    [[nodiscard]] std::uint32_t BigU32(std::size_t at) const noexcept {
+        return static_cast<std::uint32_t>(BigU16(at)) << 16U | BigU16(at + 2);
     }
     [[nodiscard]] std::int16_t I16(std::size_t at) const noexcept {
         return static_cast<std::int16_t>(U16(at));

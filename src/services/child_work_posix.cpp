@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -46,10 +47,31 @@ bool WriteAll(int file, const std::string& bytes) {
     return true;
 }
 
+/// Ends this process as soon as its parent does, which alone watches over its time.
+void DieWithParent(pid_t parent) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) { // it died before the call
+        _exit(1);
+    }
+}
+
+/// Closes all files of the program: a lock, a pipe or the connection to the display would stay open
+/// beyond its end.
+/// @return `output` under its new number
+int KeepStandardFilesAnd(int output) {
+    constexpr int Kept = STDERR_FILENO + 1;
+    if (output != Kept && dup2(output, Kept) < 0) {
+        _exit(1);
+    }
+    close_range(Kept + 1, ~0U, 0); // kernels before 5.9 leave them open
+    return Kept;
+}
+
 /// The child's whole life. It must not come back into the program, whose buffers it holds copies
 /// of.
 [[noreturn]] void LiveAsChild(const std::function<std::string()>& work, const ChildLimits& limits,
-                              int output) {
+                              pid_t parent, int output) {
+    DieWithParent(parent);
     for (const int number : {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGTERM, SIGINT}) {
         std::signal(number, SIG_DFL);
     }
@@ -63,6 +85,7 @@ bool WriteAll(int file, const std::string& bytes) {
         dup2(nowhere, STDOUT_FILENO);
         dup2(nowhere, STDERR_FILENO);
     }
+    output = KeepStandardFilesAnd(output);
     try {
         _exit(WriteAll(output, work()) ? 0 : 1);
     } catch (...) {
@@ -114,9 +137,10 @@ std::optional<std::string> DoInChild(const std::function<std::string()>& work,
     if (pipe2(ends.data(), O_CLOEXEC) != 0) {
         return std::nullopt;
     }
+    const pid_t parent = getpid();
     const pid_t child = fork();
     if (child == 0) {
-        LiveAsChild(work, limits, ends[1]);
+        LiveAsChild(work, limits, parent, ends[1]);
     }
     close(ends[1]);
     std::string bytes;

@@ -15,8 +15,8 @@ struct ChildLimits {
 };
 
 /// Does work in a process of its own and hands over what it returns: for a C library that hostile
-/// files make crash, hang or eat memory. The work must touch no window, and no lock that another
-/// thread may hold.
+/// files make crash, hang or eat memory. The work must touch no window, no file that the program
+/// has open, and no lock that another thread may hold. It ends with the program.
 /// @return nothing when the work crashed, threw, or went beyond a limit
 std::optional<std::string> DoInChild(const std::function<std::string()>& work,
                                      const ChildLimits& limits);

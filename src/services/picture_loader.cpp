@@ -3,8 +3,10 @@
 #include "core/file_store.h"
 #include "core/runtime_error.h"
 #include "services/emf_player.h"
+#include "services/icon_directory.h"
 #include "services/metafile_outline.h"
 #include "services/picture_format.h"
+#include "services/png_chunks.h"
 #include "services/raster_outline.h"
 #include "services/wmf_player.h"
 
@@ -27,13 +29,39 @@ struct PictureFile {
     std::string bytes;
     PictureFormat format = PictureFormat::Unknown;
     PictureFault fault = PictureFault::None;
+    int index = 0; ///< the one to take of several pictures
 };
 
 bool IsMetafile(PictureFormat format) {
     return format == PictureFormat::Wmf || format == PictureFormat::Emf;
 }
 
-PictureFile ReadPictureFile(std::string_view path) {
+/// Chooses among the pictures of an icon. One that is a png takes the place of the file: then what
+/// holds for a png file holds for it as well.
+void TakeIconPicture(PictureFile& file, int side) {
+    const auto picture = NearestIconPicture(file.bytes, side);
+    if (!picture) {
+        file.fault = PictureFault::Damaged;
+    } else if (PictureFormatOf(picture->bytes) == PictureFormat::Png) {
+        file.bytes = std::string(picture->bytes);
+        file.format = PictureFormat::Png;
+    } else {
+        file.index = picture->index;
+        file.bytes[2] = 1; // a cursor is laid out like an icon
+    }
+}
+
+/// Leaves what is decoded.
+void Reduce(PictureFile& file, int iconSide) {
+    if (file.format == PictureFormat::Icon || file.format == PictureFormat::Cursor) {
+        TakeIconPicture(file, iconSide);
+    }
+    if (file.format == PictureFormat::Png && !KeepPixelChunks(file.bytes)) {
+        file.fault = PictureFault::Damaged;
+    }
+}
+
+PictureFile ReadPictureFile(std::string_view path, int iconSide = UsualIconSide) {
     PictureFile file;
     try {
         if (FileLength(path) > MostFileBytes) {
@@ -50,6 +78,8 @@ PictureFile ReadPictureFile(std::string_view path) {
         file.fault = PictureFault::UnknownFormat;
     } else if (IsMetafile(file.format) && file.bytes.size() > MostMetafileBytes) {
         file.fault = PictureFault::TooLarge;
+    } else {
+        Reduce(file, iconSide);
     }
     return file;
 }
@@ -78,12 +108,10 @@ const char* ReaderName(PictureFormat format) {
 /// A raster picture before it is decoded.
 class RasterPicture {
 public:
-    explicit RasterPicture(PictureFile& file) : outline_(OutlineRaster(file.format, file.bytes)) {
+    explicit RasterPicture(const PictureFile& file)
+        : outline_(OutlineRaster(file.format, file.bytes)) {
         if (!outline_.whole) {
             return;
-        }
-        if (file.format == PictureFormat::Cursor) {
-            file.bytes[2] = 1; // a cursor is laid out like an icon
         }
         buffer_.setData(
             QByteArray::fromRawData(file.bytes.data(), static_cast<qsizetype>(file.bytes.size())));
@@ -93,8 +121,8 @@ public:
         reader_.setDevice(&buffer_);
         reader_.setFormat(ReaderName(file.format));
         reader_.setAutoDetectImageFormat(false);
-        if (outline_.index > 0) {
-            reader_.jumpToImage(outline_.index);
+        if (file.index > 0) {
+            reader_.jumpToImage(file.index);
         }
         size_ = reader_.size();
     }
@@ -149,8 +177,8 @@ PictureResult LoadMetafile(const PictureFile& file) {
 
 } // namespace
 
-PictureResult LoadPicture(std::string_view documentPath) {
-    PictureFile file = ReadPictureFile(documentPath);
+PictureResult LoadPicture(std::string_view documentPath, int iconSide) {
+    const PictureFile file = ReadPictureFile(documentPath, iconSide);
     if (file.fault != PictureFault::None) {
         return {{}, file.fault};
     }
@@ -169,7 +197,7 @@ PictureResult LoadPicture(std::string_view documentPath) {
 }
 
 std::optional<QSize> PictureSize(std::string_view documentPath) {
-    PictureFile file = ReadPictureFile(documentPath);
+    const PictureFile file = ReadPictureFile(documentPath);
     if (file.fault != PictureFault::None) {
         return std::nullopt;
     }

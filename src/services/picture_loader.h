@@ -26,10 +26,13 @@ struct PictureResult {
 /// The memory that loading a picture may take, the file's own bytes included.
 inline constexpr qint64 MostPictureBytes = 192'000'000;
 
+inline constexpr int UsualIconSide = 32;
+
 /// Loads a jpg, bmp, gif, png, ico, cur, wmf or emf file, told by its content. Of an animation the
-/// first picture, of an icon the one nearest to 32 by 32. Files come from anywhere: nothing is
-/// decoded before its header and length are found to fit, and no other file is opened for it.
-PictureResult LoadPicture(std::string_view documentPath);
+/// first picture, of an icon the one whose width in pixels is nearest to `iconSide`, the larger of
+/// two. Files come from anywhere: nothing is decoded before its header and length are found to fit,
+/// and no other file is opened for it.
+PictureResult LoadPicture(std::string_view documentPath, int iconSide = UsualIconSide);
 
 /// The natural size in pixels without decoding the picture; nothing for what LoadPicture refuses
 /// by its header.

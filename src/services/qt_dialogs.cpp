@@ -1,7 +1,10 @@
 #include "services/qt_dialogs.h"
 
+#include "core/document_path.h"
 #include "services/file_filter.h"
 #include "services/font_dialog.h"
+#include "services/native_path_text.h"
+#include "services/picture_loader.h"
 #include "services/service_slot.h"
 
 #include <QColorDialog>
@@ -11,12 +14,9 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QImageReader>
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
-
-#include <cstdlib>
 
 namespace tavmoor {
 
@@ -108,25 +108,6 @@ std::optional<FileAnswer> AskForFile(const FileRequest& request, QFileDialog::Ac
                       SelectedFilter(dialog, request)};
 }
 
-/// The picture in an icon file that is nearest to the size, the larger one of two.
-QImage NearestPicture(const QString& path, int size) {
-    QImageReader reader(path);
-    QImage nearest;
-    for (int i = 0; i == 0 || i < reader.imageCount(); ++i) {
-        const QImage picture = reader.read();
-        const int distance = std::abs(picture.width() - size);
-        const int nearestDistance = std::abs(nearest.width() - size);
-        if (nearest.isNull() || distance < nearestDistance ||
-            (distance == nearestDistance && picture.width() > nearest.width())) {
-            nearest = picture.isNull() ? nearest : picture;
-        }
-        if (!reader.jumpToNextImage()) {
-            break;
-        }
-    }
-    return nearest;
-}
-
 } // namespace
 
 std::optional<FileAnswer> QtDialogs::OpenFile(const FileRequest& request) {
@@ -214,7 +195,8 @@ QIcon QtDialogs::FileIcon(const QString& path, int size) {
     if (!file.isFile()) {
         return {};
     }
-    const QImage picture = NearestPicture(path, size);
+    const auto documentPath = FindDocumentPath(NativePathOf(path));
+    const QImage picture = documentPath ? LoadPicture(*documentPath, size).image : QImage();
     return picture.isNull() ? QFileIconProvider().icon(file) : QIcon(QPixmap::fromImage(picture));
 }
 

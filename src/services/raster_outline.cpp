@@ -2,6 +2,7 @@
 
 #include "services/byte_view.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace tavmoor {
@@ -9,41 +10,87 @@ namespace tavmoor {
 namespace {
 
 constexpr std::uint32_t PlainPixel = 4;
-/// A 16-bit png, and a gif with the screen before the frame.
+/// A 16-bit png, a gif with the screen before the frame, an icon before the mask is laid in.
 constexpr std::uint32_t DoublePixel = 8;
-/// A jpg in several scans: the decoder keeps all coefficients, 2 bytes for each of 3 components.
-constexpr std::uint32_t CoefficientPixel = PlainPixel + 6;
+/// A jpg in several scans: the decoder keeps every component of every pixel until the last one.
+constexpr std::uint32_t CoefficientBytes = 2;
 
-bool IsJpegFrame(std::uint8_t marker) {
+namespace jpeg {
+
+// Markers, the byte behind 0xFF.
+constexpr std::uint8_t ProgressiveFrame = 0xC2;
+constexpr std::uint8_t ProgressiveArithmeticFrame = 0xCA;
+constexpr std::uint8_t FirstRestart = 0xD0;
+constexpr std::uint8_t Begin = 0xD8;
+constexpr std::uint8_t End = 0xD9;
+constexpr std::uint8_t Scan = 0xDA;
+
+bool IsFrame(std::uint8_t marker) {
     return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
+bool IsProgressive(std::uint8_t marker) {
+    return marker == ProgressiveFrame || marker == ProgressiveArithmeticFrame;
+}
+bool HasSegment(std::uint8_t marker) {
+    return marker >= 0xC0 && !(marker >= FirstRestart && marker <= Begin);
+}
+
+/// Steps through the markers of a file as decoders do: what lies between two segments, such as the
+/// picture's data, is passed over up to the next 0xFF that is followed by anything but 0.
+class Markers {
+public:
+    explicit Markers(std::string_view bytes) : bytes_(bytes) {}
+
+    /// @return the next marker, 0 at the end of the file
+    std::uint8_t Next() {
+        if (HasSegment(marker_)) {
+            at_ += ByteView(bytes_).BigU16(at_);
+        }
+        do {
+            at_ = bytes_.find_first_not_of('\xFF', bytes_.find('\xFF', at_));
+            if (at_ == std::string_view::npos) {
+                marker_ = 0;
+                break;
+            }
+            marker_ = ByteView(bytes_).U8(at_++);
+        } while (marker_ == 0);
+        return marker_;
+    }
+    /// A byte of the segment, counted from its length on.
+    [[nodiscard]] std::uint8_t At(std::size_t offset) const {
+        return ByteView(bytes_).U8(at_ + offset);
+    }
+
+private:
+    std::string_view bytes_;
+    std::size_t at_ = 0;
+    std::uint8_t marker_ = 0;
+};
+
+} // namespace jpeg
 
 RasterOutline OutlineJpeg(std::string_view bytes) {
-    const ByteView view(bytes);
+    // Pictures have some 10. Each costs a pass over the whole picture, however short it is.
+    constexpr int MostScans = 100;
     RasterOutline outline;
-    std::uint8_t components = 0;
-    for (std::size_t at = 2; view.U8(at) == 0xFF;) {
-        const std::uint8_t marker = view.U8(at + 1);
-        if (marker == 0xFF) { // padding before a marker
-            ++at;
-            continue;
+    std::uint32_t components = 0;
+    int scans = 0;
+    bool isInScans = false;
+    jpeg::Markers markers(bytes);
+    for (auto marker = markers.Next(); marker != 0 && scans <= MostScans; marker = markers.Next()) {
+        if (marker == jpeg::End) {
+            outline.whole = scans > 0;
+            break;
         }
-        if (IsJpegFrame(marker)) {
-            components = view.U8(at + 9);
-            if (marker == 0xC2) {
-                outline.bytesPerPixel = CoefficientPixel;
-            }
+        if (jpeg::IsFrame(marker)) {
+            components = std::max<std::uint32_t>(components, markers.At(7));
+            isInScans = isInScans || jpeg::IsProgressive(marker);
+        } else if (marker == jpeg::Scan) {
+            isInScans = isInScans || markers.At(2) < components;
+            ++scans;
         }
-        if (marker == 0xDA) {
-            if (view.U8(at + 4) < components) {
-                outline.bytesPerPixel = CoefficientPixel;
-            }
-            // Within the picture's data 0xFF is never followed by 0xD9 but at its end.
-            outline.whole = bytes.find("\xFF\xD9", at) != std::string_view::npos;
-            return outline;
-        }
-        at += 2U + view.BigU16(at + 2);
     }
+    outline.bytesPerPixel = PlainPixel + (isInScans ? CoefficientBytes * components : 0);
     return outline;
 }
 
@@ -110,31 +157,6 @@ RasterOutline OutlineGif(std::string_view bytes) {
     return outline;
 }
 
-RasterOutline OutlineIcon(std::string_view bytes) {
-    constexpr int WantedWidth = 32;
-    constexpr std::size_t EntryBytes = 16;
-    const ByteView view(bytes);
-    RasterOutline outline;
-    // The pixels are decoded before the mask is laid in.
-    outline.bytesPerPixel = DoublePixel;
-    int nearest = -1;
-    const int count = view.U16(4);
-    for (int i = 0; i < count; ++i) {
-        const std::size_t at = 6 + EntryBytes * static_cast<std::size_t>(i);
-        if (!view.Has(view.U32(at + 12), view.U32(at + 8)) || view.U32(at + 8) == 0) {
-            return outline;
-        }
-        const int width = view.U8(at) == 0 ? 256 : view.U8(at);
-        const int distance = std::abs(width - WantedWidth);
-        if (nearest < 0 || distance < nearest) {
-            nearest = distance;
-            outline.index = i;
-        }
-    }
-    outline.whole = count > 0;
-    return outline;
-}
-
 } // namespace
 
 RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes) {
@@ -147,10 +169,9 @@ RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes) {
         return OutlineGif(bytes);
     case PictureFormat::Icon:
     case PictureFormat::Cursor:
-        return OutlineIcon(bytes);
     case PictureFormat::Png:
-        // Its decoder finds what is missing by itself.
-        return {true, DoublePixel, 0};
+        // Their decoders find what is missing by themselves.
+        return {true, DoublePixel};
     case PictureFormat::Wmf:
     case PictureFormat::Emf:
     case PictureFormat::Unknown:

@@ -9,12 +9,11 @@ namespace tavmoor {
 
 /// What the frame of a raster picture tells before anything of it is decoded.
 struct RasterOutline {
-    /// The file holds all the data it announces. Decoders fill up what is missing with grey.
+    /// The file holds all the data it announces, in no more passes over the picture than pictures
+    /// have. Decoders fill up what is missing with grey.
     bool whole = false;
     /// Memory that decoding takes at most for each pixel.
     std::uint32_t bytesPerPixel = 4;
-    /// Which of several pictures to take: of icons and cursors the one nearest to 32 by 32.
-    int index = 0;
 };
 
 RasterOutline OutlineRaster(PictureFormat format, std::string_view bytes);

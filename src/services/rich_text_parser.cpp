@@ -13,7 +13,10 @@ namespace {
 
 constexpr std::size_t MostDepth = 200;
 constexpr std::size_t MostParagraphs = 20'000;
-constexpr std::size_t MostRuns = 100'000;
+constexpr std::size_t MostRuns = 10'000; // each may take a font of its own, some 0.5 ms
+constexpr int MostCharacters = 1'000'000;
+/// A view lays out no less than a whole paragraph at a time.
+constexpr int MostParagraphCharacters = 10'000;
 constexpr std::size_t MostTabs = 32;
 constexpr std::size_t MostTableEntries = 4096;
 constexpr std::size_t MostNameBytes = 256;
@@ -157,6 +160,9 @@ private:
         return word;
     }
     void Symbol(char symbol) {
+        if (symbol != '\'' && IsReplaced()) {
+            return;
+        }
         switch (symbol) {
         case '\'':
             HexByte();
@@ -201,12 +207,13 @@ private:
         TakeByte(static_cast<unsigned char>(high * 16 + low));
     }
     void Word(const ControlWord& word) {
+        const bool isReplaced = IsReplaced();
         if (word.name == "bin") {
             at_ += std::min(static_cast<std::size_t>(std::max(0, word.NumberOr(0))),
                             bytes_.size() - at_);
             return;
         }
-        if (state_.destination == Destination::Skipped) {
+        if (isReplaced || state_.destination == Destination::Skipped) {
             return;
         }
         if (std::find(SkippedGroups.begin(), SkippedGroups.end(), word.name) !=
@@ -228,7 +235,19 @@ private:
         }
     }
 
+    /// True for what stands there for readers that cannot take the Unicode character before it. A
+    /// word or a symbol counts as one character.
+    bool IsReplaced() {
+        if (unicodeSkip_ == 0) {
+            return false;
+        }
+        --unicodeSkip_;
+        return true;
+    }
     void TakeByte(unsigned char byte) {
+        if (IsReplaced()) {
+            return;
+        }
         TakeCharacter(byte < 0x80 ? byte : CurrentCodePage().ToUnicode(byte));
     }
     const CodePage& CurrentCodePage() {
@@ -242,13 +261,9 @@ private:
         return *page;
     }
     void TakeCharacter(char32_t character) {
-        if (unicodeSkip_ > 0) {
-            --unicodeSkip_;
-            return;
-        }
         switch (state_.destination) {
         case Destination::Text:
-            AppendUtf8(CurrentRun().text, character);
+            TakeText(character);
             break;
         case Destination::FontTable:
             TakeFontName(character);
@@ -260,10 +275,18 @@ private:
             break;
         }
     }
+    void TakeText(char32_t character) {
+        if (paragraphCharacters_ == MostParagraphCharacters) {
+            EndParagraph();
+        }
+        AppendUtf8(CurrentRun().text, character);
+        ++paragraphCharacters_;
+        isFull_ = ++characters_ >= MostCharacters || isFull_;
+    }
     RichTextRun& CurrentRun() {
         auto& runs = paragraph_.runs;
         if (runs.empty() || runs.back().format != state_.format) {
-            isFull_ = ++runCount_ >= MostRuns;
+            isFull_ = ++runCount_ >= MostRuns || isFull_;
             runs.push_back({{}, state_.format});
         }
         return runs.back();
@@ -290,6 +313,7 @@ private:
         paragraph_.format = state_.paragraph;
         document_.paragraphs.push_back(std::move(paragraph_));
         paragraph_ = {};
+        paragraphCharacters_ = 0;
         isFull_ = isFull_ || document_.paragraphs.size() >= MostParagraphs;
     }
 
@@ -338,7 +362,6 @@ private:
     /// Characters beyond the first plane come as two numbers, which are put together here.
     void Unicode(const ControlWord& word) {
         auto unit = static_cast<char32_t>(word.NumberOr(0)) & 0xFFFFU;
-        unicodeSkip_ = 0;
         if (unit >= 0xD800 && unit < 0xDC00) {
             highSurrogate_ = unit;
         } else if (unit >= 0xDC00 && unit < 0xE000) {
@@ -393,6 +416,8 @@ private:
     std::size_t depthBeyond_ = 0;
     RichText document_;
     RichTextParagraph paragraph_;
+    int paragraphCharacters_ = 0;
+    int characters_ = 0;
     std::size_t runCount_ = 0;
     bool isFull_ = false;
     int ansiCodePage_ = 1252;

@@ -60,8 +60,8 @@ struct RichText {
 };
 
 /// Reads rich text from any bytes: unknown words and destinations are passed over, a cut off
-/// document gives what came before. Linear in time; a document of more than 20000 paragraphs or
-/// 100000 runs is cut there.
+/// document gives what came before. Linear in time; a document of more than a million characters,
+/// 20000 paragraphs or 10000 runs is cut there, and a paragraph is broken after 10000 characters.
 /// @return nothing for what does not begin as rich text
 std::optional<RichText> ParseRichText(std::string_view bytes);
 

@@ -24,6 +24,8 @@
 #include <QLabel>
 #include <QPixmap>
 
+#include <utility>
+
 namespace tavmoor {
 
 namespace {
@@ -253,6 +255,12 @@ void Frame2::StoreIcon(const std::string& path) {
 
 void Frame2::ShowIconIgnoringLoadErrors() {
     const std::string& path = Document().OsnovniPodaci.Ikona;
+    // The panel is shown anew after every change of the project.
+    FileStamp icon = FileStampOf(path);
+    if (icon == shownIcon_) {
+        return;
+    }
+    shownIcon_ = std::move(icon);
     const QImage image = path.empty() ? QImage() : LoadPicture(path).image;
     icon_->setPixmap(QPixmap::fromImage(
         image.width() > IconSide || image.height() > IconSide

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/file_stamp.h"
 #include "settings/panel.h"
 
 #include <string>
@@ -42,6 +43,7 @@ private:
     PathBox* folder_ = nullptr;
     ValueLabel* templateName_ = nullptr;
     QLabel* icon_ = nullptr;
+    FileStamp shownIcon_;
 };
 
 } // namespace tavmoor

@@ -35,12 +35,40 @@ QImage Sample() {
     return image;
 }
 
-std::string Encoded(const char* format) {
+std::string Encoded(const char* format, const QImage& image = Sample()) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(Sample().save(&buffer, format, 100)) << format;
+    EXPECT_TRUE(image.save(&buffer, format, 100)) << format;
     return bytes.toStdString();
+}
+
+/// Grey all over: one scan for the means of its blocks, and more that change nothing. The data are
+/// those of a single block.
+std::string ProgressiveJpg(int width, int height, int components, int scans) {
+    const auto bytes = [](std::initializer_list<int> values) {
+        return std::string(values.begin(), values.end());
+    };
+    const auto segment = [&](int marker, const std::string& content) {
+        const int length = static_cast<int>(content.size()) + 2;
+        return bytes({0xFF, marker, length >> 8, length & 0xFF}) + content;
+    };
+    std::string frame =
+        bytes({8, height >> 8, height & 0xFF, width >> 8, width & 0xFF, components});
+    std::string means = bytes({components});
+    for (int i = 1; i <= components; ++i) {
+        frame += bytes({i, 0x11, 0});
+        means += bytes({i, 0});
+    }
+    const std::string oneCode = bytes({1}) + std::string(16, '\0');
+    std::string jpg = bytes({0xFF, 0xD8}) + segment(0xDB, '\0' + std::string(64, '\1')) +
+                      segment(0xC2, frame) + segment(0xC4, bytes({0x00}) + oneCode) +
+                      segment(0xC4, bytes({0x10}) + oneCode) +
+                      segment(0xDA, means + bytes({0, 0, 0})) + bytes({0x0F});
+    for (int i = 1; i < scans; ++i) {
+        jpg += segment(0xDA, bytes({1, 1, 0, 1, 63, 0})) + bytes({0x7F});
+    }
+    return jpg + bytes({0xFF, 0xD9});
 }
 
 /// One pixel of red.
@@ -158,6 +186,54 @@ TEST_F(PictureLoaderTest, RefusesHugeDimensionsBeforeDecoding) {
     EXPECT_EQ(FaultOf(jpg), PictureFault::TooLarge);
     EXPECT_EQ(FaultOf(Wmf(32000, 32000, {})), PictureFault::TooLarge);
     EXPECT_EQ(FaultOf(Emf(100000, 100000, 0, {})), PictureFault::TooLarge);
+}
+
+TEST_F(PictureLoaderTest, RefusesJpgsOfTooManyScansOrTooMuchInThem) {
+    EXPECT_EQ(FaultOf(ProgressiveJpg(8, 8, 1, 100)), PictureFault::None);
+    EXPECT_EQ(FaultOf(ProgressiveJpg(8, 8, 1, 101)), PictureFault::Damaged);
+    // What only looks like scans, or like the end, is text.
+    std::string remarked = Encoded("JPG");
+    std::string remark("\xFF\xFE\x01\x92", 4);
+    for (int i = 0; i < 100; ++i) {
+        remark += "\xFF\xDA\xFF\xD9";
+    }
+    remarked.insert(2, remark);
+    EXPECT_EQ(FaultOf(remarked), PictureFault::None);
+    ExpectWholeOnly(remarked, 0, 31);
+
+    const auto path = folder_.Document("large.jpg");
+    folder_.Write("large.jpg", ProgressiveJpg(60000, 300, 3, 1));
+    EXPECT_EQ(PictureSize(path), QSize(60000, 300));
+    folder_.Write("large.jpg", ProgressiveJpg(60000, 300, 4, 1));
+    EXPECT_EQ(PictureSize(path), std::nullopt);
+}
+
+TEST_F(PictureLoaderTest, DecodesNothingOfAPngButItsPixels) {
+    QImage talkative = Sample();
+    talkative.setText(QStringLiteral("Title"), QString(100'000, u'a'));
+    const std::string png = Encoded("PNG", talkative);
+    ASSERT_NE(png.find("Title"), std::string::npos);
+    const auto length = static_cast<std::int64_t>(png.size());
+    const std::string icon = Words({0, 1, 1, 32 + 32 * 256, 0, 1, 32}) + Longs({length, 22}) + png;
+    for (const std::string& file : {png, icon}) {
+        const PictureResult result = Load(file);
+        ASSERT_EQ(result.fault, PictureFault::None);
+        EXPECT_EQ(result.image.convertToFormat(QImage::Format_RGB32), Sample());
+        EXPECT_TRUE(result.image.textKeys().isEmpty());
+    }
+    std::string endless = png;
+    endless.replace(33, 4, "\xFF\xFF\xFF\xFF");
+    EXPECT_EQ(FaultOf(endless), PictureFault::Damaged);
+}
+
+TEST_F(PictureLoaderTest, TakesTheNearestPictureOfAnIconTheLargerOfTwo) {
+    const auto width = [&](int side, const std::string& icon) {
+        return LoadPicture(folder_.Write("a.ico", icon), side).image.width();
+    };
+    const std::string icon = Icons(1, {{24, Red}, {40, Red}, {16, Red}});
+    EXPECT_EQ(width(16, icon), 16);
+    EXPECT_EQ(width(32, icon), 40);
+    EXPECT_EQ(width(32, Icons(2, {{40, Red}, {24, Red}})), 40);
 }
 
 TEST_F(PictureLoaderTest, SurvivesHostileMetafiles) {

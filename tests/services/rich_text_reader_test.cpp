@@ -64,6 +64,23 @@ TEST(RichTextParser, ReadsTextFormatsAndTables) {
     EXPECT_FALSE(ParseRichText("plain text"));
 }
 
+TEST(RichTextParser, PassesOverWhatStandsForAUnicodeCharacter) {
+    for (const auto& [rtf, text] : {std::pair<std::string, std::string>{"\\u8364?x", "€x"},
+                                    {"\\u8364\\'80x", "€x"},
+                                    {"\\u8364\\par x", "€x"},
+                                    {"\\u8364\\~x", "€x"},
+                                    {"\\u8364\\bin3 }}}x", "€x"},
+                                    {"\\uc2\\u8364\\bullet ?x", "€x"},
+                                    {"\\uc0\\u8364\\u8364 x", "€€x"},
+                                    {"{\\u8364}x", "€x"}}) {
+        const auto parsed = ParseRichText("{\\rtf1 " + rtf + "}");
+        ASSERT_EQ(parsed->paragraphs.size(), 1U) << rtf;
+        EXPECT_EQ(TextOf(parsed->paragraphs[0]), text) << rtf;
+    }
+    const auto parsed = ParseRichText("{\\rtf1\\u8364\\b x}");
+    EXPECT_FALSE(parsed->paragraphs.at(0).runs.at(0).format.bold);
+}
+
 TEST(RichTextReader, FillsADocument) {
     const test::TemporaryFolder folder;
     QTextDocument document(QStringLiteral("old"));
@@ -104,6 +121,17 @@ TEST(RichTextParser, SurvivesAnyBytes) {
                                       : std::string(pieces[random() % std::size(pieces)]);
         }
         EXPECT_TRUE(ParseRichText(text));
+    }
+}
+
+TEST(RichTextParser, CutsLongTextsAndBreaksLongParagraphs) {
+    const auto exact = ParseRichText("{\\rtf1 " + std::string(10'000, 'x') + "\\par y}");
+    EXPECT_EQ(exact->paragraphs.size(), 2U);
+    const auto parsed = ParseRichText("{\\rtf1\\qc " + std::string(1'200'000, 'x') + "}");
+    ASSERT_EQ(parsed->paragraphs.size(), 100U);
+    for (const RichTextParagraph& paragraph : parsed->paragraphs) {
+        EXPECT_EQ(TextOf(paragraph).size(), 10'000U);
+        EXPECT_EQ(paragraph.format.alignment, RichTextAlignment::Centre);
     }
 }
 

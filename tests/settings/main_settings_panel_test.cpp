@@ -107,6 +107,31 @@ TEST_F(MainSettingsPanel, TheIconBeginsInItsFolderAndLoadErrorsAreIgnored) {
     EXPECT_EQ(Shown("Label35"), QString());
 }
 
+TEST_F(MainSettingsPanel, TheIconIsLoadedAgainOnlyWhenItsFileChanged) {
+    auto& form = Main();
+    const auto corner = [&] {
+        windows.Main()->ShowDocument();
+        return Find<QLabel>(form, "Image1").pixmap().toImage().pixelColor(0, 0);
+    };
+    const std::filesystem::path file = folder.Native("icon.ico");
+    const auto write = [&](QColor color) {
+        QImage image({16, 16}, QImage::Format_RGB32);
+        image.fill(color);
+        ASSERT_TRUE(image.save(QString::fromStdString(file.string()), "BMP"));
+    };
+    write(Qt::red);
+    Document().OsnovniPodaci.Ikona = folder.Document("icon.ico");
+    EXPECT_EQ(corner(), QColor(Qt::red));
+    const auto time = std::filesystem::last_write_time(file);
+    write(Qt::blue);
+    std::filesystem::last_write_time(file, time);
+    EXPECT_EQ(corner(), QColor(Qt::red)) << "it was read again";
+    std::filesystem::last_write_time(file, time + std::chrono::seconds(1));
+    EXPECT_EQ(corner(), QColor(Qt::blue));
+    Document().OsnovniPodaci.Ikona = WritePicture("red.png");
+    EXPECT_EQ(corner(), QColor(Qt::red));
+}
+
 TEST_F(MainSettingsPanel, TheBackColorIsPickedByButtonAndLabel) {
     const char* result = "255";
     test::PlainWindow::Register(Context(), WindowName::menu2,
