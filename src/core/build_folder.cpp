@@ -13,7 +13,9 @@ constexpr std::size_t LongestTemporaryPath = 255;
 } // namespace
 
 std::string TemporaryPath() {
-    return DocumentPath(PlatformTemporaryFolder()).substr(0, LongestTemporaryPath);
+    return FindDocumentPath(PlatformTemporaryFolder())
+        .value_or(std::string())
+        .substr(0, LongestTemporaryPath);
 }
 
 std::string BuildFolder() {

@@ -12,8 +12,8 @@ inline constexpr std::array<std::int32_t, 7> FixedButtonId{0,       1093303, 439
                                                            5093223, 7093523, 9493723};
 
 /// The system's folder for temporary files, in document form; at most 255 characters. Whether it
-/// exists is not asked.
-/// @throws RuntimeError 52 when the document cannot say it
+/// exists is not asked. "" when the document cannot say it: the program starts all the same, and
+/// RequireOwnFolder refuses the build folder.
 std::string TemporaryPath();
 
 /// The folder in which a build works, with a backslash at its end.

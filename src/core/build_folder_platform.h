@@ -14,7 +14,7 @@ std::filesystem::path PlatformTemporaryFolder();
 void PlatformMakePrivateFolder(const std::filesystem::path& folder);
 
 /// Whose the folder is; a link counts as somebody else's, since its owner decides where it leads,
-/// and so does a folder that others may write to.
+/// and so does a folder that everybody may write to.
 FolderOwner PlatformFolderOwner(const std::filesystem::path& folder);
 
 } // namespace tavmoor

@@ -25,7 +25,8 @@ FolderOwner PlatformFolderOwner(const std::filesystem::path& folder) {
         return FolderOwner::Missing;
     }
     const bool own = S_ISDIR(entry.st_mode) && entry.st_uid == geteuid();
-    const bool shared = (entry.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+    // A group is often the user's own, and then new folders can be written by it.
+    const bool shared = (entry.st_mode & S_IWOTH) != 0;
     return own && !shared ? FolderOwner::User : FolderOwner::Other;
 }
 

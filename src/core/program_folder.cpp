@@ -16,9 +16,10 @@ std::string ProgramFolder() {
 
 std::string ProgramSettingsPath(const std::string& programFolder) {
     const auto native = FindNativePath(programFolder);
-    const std::string folder = native && PlatformCanWriteFolder(*native)
-                                   ? programFolder
-                                   : DocumentPath(PlatformConfigurationFolder() / OwnFolder);
+    const std::string folder =
+        native && PlatformCanWriteFolder(*native)
+            ? programFolder
+            : FindDocumentPath(PlatformConfigurationFolder() / OwnFolder).value_or(programFolder);
     return WithBackslash(folder) + "tavmoor.ini";
 }
 

@@ -10,7 +10,7 @@ namespace tavmoor {
 std::string ProgramFolder();
 
 /// The path of `tavmoor.ini`: in the program's folder, or, where that cannot be written, in the
-/// user's configuration folder.
+/// user's configuration folder. When the document cannot say that one, the write at the end fails.
 std::string ProgramSettingsPath(const std::string& programFolder);
 
 /// The user's folder for this program's data (recovered projects), in document form.

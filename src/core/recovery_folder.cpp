@@ -230,7 +230,7 @@ std::string RecoveryCopy::Keep(const ProjectDocument& document) {
     std::string text = ProjectText(document);
     if (text == *textAtRest_) {
         DeleteCopy();
-    } else if (path_.empty() || text != copied_) {
+    } else if (path_.empty() || text != copied_ || !FileExists(path_)) {
         std::string path = WriteRecoveryCopy(document);
         DeleteCopy();
         path_ = std::move(path);

@@ -276,6 +276,9 @@ void Frame3::ChooseFont(const MainTextRow& row) {
     current.font.size = Text(row.sizeKey);
     if (row.style == StyleKept::Words) {
         TakeStyleWords(current.font, Text("Stil"), Text("Efekti"));
+    } else if (row.style == StyleKept::Flags) {
+        current.font.bold = FieldValue<bool>(document, MainSection, row.boldKey);
+        current.font.italic = FieldValue<bool>(document, MainSection, row.italicKey);
     }
     if (!row.fontColorKey.empty()) {
         current.color = FieldValue<ColorValue>(document, MainSection, row.fontColorKey);

@@ -2,6 +2,9 @@
 
 #include "build/output_check.h"
 #include "core/build_folder.h"
+#include "core/document_path.h"
+#include "core/runtime_error.h"
+#include "services/message_box.h"
 #include "services/picture_button.h"
 #include "services/program_session.h"
 #include "services/qt_text.h"
@@ -172,6 +175,9 @@ void Form8::Build() {
     request.name = FromQString(name_->text());
     request.buildFolder = CompressFolder(Session().settings);
     request.startAfterBuild = start_->isChecked();
+    if (!BuildFolderIsUsable(request.buildFolder)) {
+        return;
+    }
     WindowBuildEvents events(Controls());
     events.ResetProgress();
     BuildOutcome outcome = BuildOutcome::Built;
@@ -184,6 +190,29 @@ void Form8::Build() {
     } else if (outcome == BuildOutcome::FolderMissing) {
         GoBackToFolder();
     }
+}
+
+/// Tells when the working files cannot be made where the settings say. In the disc folder itself
+/// the end of the build would clear away what the build has placed.
+bool Form8::BuildFolderIsUsable(const std::string& folder) {
+    QString objection;
+    if (SamePath(WithBackslash(folder), WithBackslash(Document().CdFolder()))) {
+        objection = QStringLiteral("It is the CD-ROM files folder itself.");
+    } else {
+        try {
+            RequireOwnFolder(folder);
+        } catch (const RuntimeError& error) {
+            objection = ToQString(error.what());
+        }
+    }
+    if (objection.isEmpty()) {
+        return true;
+    }
+    ShowMessageBox(this, {QStringLiteral("The temporary compress folder cannot be used. Choose "
+                                         "another one in the program settings.\n") +
+                              objection,
+                          QStringLiteral("Error..."), BoxButtons::Ok, BoxIcon::Critical});
+    return false;
 }
 
 /// The build passes over what cannot be placed; a disc must not be burnt without it.

@@ -35,6 +35,7 @@ private:
     QWidget* MakeProgress();
     QLayout* MakeButtons();
     [[nodiscard]] BuildControls Controls() const;
+    bool BuildFolderIsUsable(const std::string& folder);
     void ShowFaults(const BuiltPackage& package);
     void GoBackToFolder();
 

@@ -78,10 +78,17 @@ void ProjectCommands::Open(const std::string& path) {
         OpenRecovered(path);
         return;
     }
+    const auto file = LoadOrTell(path);
+    if (!file) {
+        return;
+    }
     KeepUnsaved();
     Reset();
-    Read(path);
     ProgramSession& session = context_.session;
+    session.document.Working.Recent = path;
+    session.document.Working.ProjectPath = path;
+    Read(*file);
+    ShowOpened();
     session.settings.recentProject = path;
     session.recovery.Rest(session.document);
 }
@@ -90,7 +97,10 @@ void ProjectCommands::OpenRecovered(const std::string& path) {
     ProgramSession& session = context_.session;
     const std::string recent = session.document.Working.Recent;
     // Read before the current project is kept: that may push out the oldest copy.
-    const ProfileFile file = ProfileFile::Load(path);
+    const auto file = LoadOrTell(path);
+    if (!file || file->Entries().empty()) {
+        return; // the copy stays, since it may be readable another time
+    }
     KeepUnsaved();
     Reset();
     // A save must not take the copy for the project's own file, nor begin in its folder.
@@ -98,8 +108,7 @@ void ProjectCommands::OpenRecovered(const std::string& path) {
     if (IsInRecoveryFolder(session.document.Working.LastProjectFolder)) {
         session.document.Working.LastProjectFolder.clear();
     }
-    ProjectListener listener(context_, owner_);
-    ReadProjectFrom(file, session.document, session.programFolder, listener);
+    Read(*file);
     session.document.Working.Recent = recent;
     session.recovery.Adopt(path, session.document);
     ShowOpened();
@@ -117,13 +126,30 @@ void ProjectCommands::Reset() {
     main.ShowMainSettings();
 }
 
-void ProjectCommands::Read(const std::string& path) {
+/// Read before anything of the current project is given up. What cannot be read must not count as
+/// an empty project that the next save writes over the file.
+std::optional<ProfileFile> ProjectCommands::LoadOrTell(const std::string& path) {
+    try {
+        return ProfileFile(ReadWholeFile(path));
+    } catch (const RuntimeError& error) {
+        if (error.Number() == ErrorNumber::FileNotFound) {
+            return ProfileFile(std::string());
+        }
+        ShowMessageBox(&owner_,
+                       {QStringLiteral("The project was not opened.\n") + ToQString(error.what()),
+                        QStringLiteral("Open project"), BoxButtons::Ok, BoxIcon::Critical});
+        return std::nullopt;
+    }
+}
+
+void ProjectCommands::Read(const ProfileFile& file) {
     ProgramSession& session = context_.session;
-    session.document.Working.Recent = path;
-    session.document.Working.ProjectPath = path;
     ProjectListener listener(context_, owner_);
-    ReadProject(session.document, session.programFolder, listener);
-    ShowOpened();
+    ReadProjectFrom(file, session.document, session.programFolder, listener);
+    if (!context_.windows.Stands(WindowName::Form16)) {
+        // Without a canvas to take the buttons over, the next save would leave them out.
+        MakeButtonsLive(session.document, ButtonRowsIn(file));
+    }
 }
 
 void ProjectCommands::ShowOpened() {

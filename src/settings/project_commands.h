@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/profile_file.h"
 #include "services/common_dialog.h"
 #include "services/window_registry.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -36,7 +38,8 @@ private:
     void OpenRecovered(const std::string& path);
     /// Drops the current project.
     void Reset();
-    void Read(const std::string& path);
+    std::optional<ProfileFile> LoadOrTell(const std::string& path);
+    void Read(const ProfileFile& file);
     void ShowOpened();
     void Save(std::string_view target);
 

@@ -68,6 +68,8 @@ TEST_F(BuildFolderTest, IsMadeForTheUserAlone) {
     EXPECT_EQ(entry.st_mode & 07777U, 0700U);
     EXPECT_EQ(ErrorOfUse(BuildFolder()), 0);
     chmod(folder_.Native("TAVMOORBuild").c_str(), 0770);
+    EXPECT_EQ(ErrorOfUse(BuildFolder()), 0);
+    chmod(folder_.Native("TAVMOORBuild").c_str(), 0707);
     EXPECT_EQ(ErrorOfUse(BuildFolder()), 70);
 }
 

@@ -51,6 +51,22 @@ TEST_F(BuildWindow, ShowsFolderNameAndWishAndNeedsAFolder) {
     EXPECT_FALSE(Find(form, "Command1").isEnabled());
 }
 
+TEST_F(BuildWindow, ACompressFolderThatCannotBeUsedIsToldAndNothingIsTouched) {
+    auto& form = Open();
+    const std::string old = "an earlier package";
+    project_.folder.Write("disc/autorun.arn", old);
+    for (const std::string& unusable : {Document().CdFolder(), folder.Document("gone")}) {
+        session.settings.buildFolder = unusable;
+        test::ScriptedBoxes boxes({BoxAnswer::Ok});
+        Click(form, "Command1");
+        ASSERT_EQ(boxes.shown.size(), 1U) << unusable;
+        EXPECT_TRUE(boxes.shown[0].text.startsWith(
+            QStringLiteral("The temporary compress folder cannot be used.")));
+        EXPECT_EQ(project_.folder.Read("disc/autorun.arn"), old);
+        EXPECT_TRUE(Find(form, "Command1").isEnabled());
+    }
+}
+
 TEST_F(BuildWindow, NamesAreRefusedUntilTheyAreGood) {
     auto& form = Open();
     Type(form, "Text1", QStringLiteral("my app"));

@@ -166,6 +166,34 @@ TEST_F(ProjectCommandsTest, AFailedSaveIsToldAndChangesNothing) {
     EXPECT_EQ(Working().ProjectPath, path);
 }
 
+TEST_F(ProjectCommandsTest, WhatCannotBeReadDoesNotTakeThePlaceOfTheProject) {
+    auto& hub = Hub();
+    Title() = "mine";
+    std::filesystem::create_directory(folder.Native("folder.tavp"));
+    test::ScriptedDialogs dialogs;
+    dialogs.AnswerFile(folder.Document("folder.tavp"));
+    test::ScriptedBoxes boxes({BoxAnswer::Ok});
+    hub.Serve(MenuAction::OpenProject);
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(boxes.shown[0].text.startsWith(QStringLiteral("The project was not opened.\n")));
+    EXPECT_EQ(Title(), "mine") << Quiet;
+    EXPECT_EQ(Working().ProjectPath, "");
+    EXPECT_EQ(Recovered(), "") << "nothing was dropped";
+}
+
+TEST_F(ProjectCommandsTest, ASaveKeepsTheButtonsOfTheCanvas) {
+    auto& hub = Hub();
+    auto document = std::make_unique<ProjectDocument>(NewProjectDocument());
+    document->NapredniSabloni.Dugme[3].DugmeX = 120;
+    document->NapredniSabloni.Dugme[3].DugmeExists = true;
+    const std::string path = folder.Write("canvas.tavp", ProjectText(*document));
+    test::ScriptedDialogs dialogs;
+    dialogs.AnswerFile(path);
+    hub.Serve(MenuAction::OpenProject);
+    hub.Serve(MenuAction::SaveProject);
+    EXPECT_EQ(ReadProfileValue(path, "Napredni sabloni", "DugmeX(3)"), "120");
+}
+
 TEST_F(ProjectCommandsTest, ACopyIsOfferedOpenedAsUnsavedAndGoneOnceSaved) {
     Document().OsnovniPodaci.Tasknaslov = "rescued";
     session.recoveredProject = WriteRecoveryCopy(Document());
