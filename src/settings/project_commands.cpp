@@ -130,10 +130,10 @@ void ProjectCommands::Reset() {
 /// an empty project that the next save writes over the file.
 std::optional<ProfileFile> ProjectCommands::LoadOrTell(const std::string& path) {
     try {
-        return ProfileFile(ReadWholeFile(path));
+        return std::optional<ProfileFile>(std::in_place, ReadWholeFile(path));
     } catch (const RuntimeError& error) {
         if (error.Number() == ErrorNumber::FileNotFound) {
-            return ProfileFile(std::string());
+            return std::optional<ProfileFile>(std::in_place, std::string());
         }
         ShowMessageBox(&owner_,
                        {QStringLiteral("The project was not opened.\n") + ToQString(error.what()),
