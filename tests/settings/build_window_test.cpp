@@ -55,7 +55,9 @@ TEST_F(BuildWindow, ACompressFolderThatCannotBeUsedIsToldAndNothingIsTouched) {
     auto& form = Open();
     const std::string old = "an earlier package";
     project_.folder.Write("disc/autorun.arn", old);
-    for (const std::string& unusable : {Document().CdFolder(), folder.Document("gone")}) {
+    folder.Write("file", "in the way");
+    for (const std::string& unusable :
+         {Document().CdFolder(), folder.Document("gone"), folder.Document("file")}) {
         session.settings.buildFolder = unusable;
         test::ScriptedBoxes boxes({BoxAnswer::Ok});
         Click(form, "Command1");
@@ -161,8 +163,8 @@ TEST_F(BuildWindow, AfterAFailureTheNextBuildCanBegin) {
     EXPECT_TRUE(Status(form).startsWith(QStringLiteral("Aborted\r\nThere was an error")));
     EXPECT_TRUE(Find(form, "Command1").isEnabled());
 
-    std::filesystem::remove_all(folder.Native("TAVMOORBuild"));
-    std::ofstream(folder.Native("TAVMOORBuild")) << "in the way";
+    project_.AddFilms(25); // more than a package holds
+    Document() = *project_.document;
     EXPECT_THROW(form.Build(), RuntimeError);
     EXPECT_TRUE(Find(form, "Command1").isEnabled());
     EXPECT_TRUE(form.Unload());
