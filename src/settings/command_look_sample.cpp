@@ -4,6 +4,7 @@
 #include "services/theme.h"
 #include "services/twips.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 
