@@ -40,24 +40,24 @@ std::optional<ScreenPlace> PlaceOf(std::string_view name) {
 
 } // namespace
 
-ScreenModel MakeScreenModel(const ScreenSpec& spec) {
+ScreenModel MakeScreenModel(const ScreenSpec& screen) {
     ScreenModel model;
-    model.shown = spec.Prikazi;
-    model.clickCloses = spec.ClickThrough;
-    model.seconds = ScreenSeconds(spec.Vreme);
-    model.size = {std::max<int>(spec.Sirina, 0), std::max<int>(spec.Visina, 0)};
-    model.color = spec.Bojaprozora;
-    if (spec.Opcija != TextOnly) {
-        model.picture = spec.Slika;
+    model.shown = screen.Prikazi;
+    model.clickCloses = screen.ClickThrough;
+    model.seconds = ScreenSeconds(screen.Vreme);
+    model.size = {std::max<int>(screen.Sirina, 0), std::max<int>(screen.Visina, 0)};
+    model.color = screen.Bojaprozora;
+    if (screen.Opcija != TextOnly) {
+        model.picture = screen.Slika;
     }
-    if (spec.Opcija != PictureOnly) {
-        model.text.text = Utf8Text(spec.Tekst);
+    if (screen.Opcija != PictureOnly) {
+        model.text.text = Utf8Text(screen.Tekst);
     }
     model.text.font =
-        StoredFont(spec.Font, spec.Fontvelicina, spec.Bold, spec.Italic, spec.Underline);
-    model.text.color = spec.Bojateksta;
-    model.picturePlace = PlaceOf(spec.Polozajslike);
-    model.textPlace = PlaceOf(spec.Polozajteksta).value_or(ScreenPlace::Center);
+        StoredFont(screen.Font, screen.Fontvelicina, screen.Bold, screen.Italic, screen.Underline);
+    model.text.color = screen.Bojateksta;
+    model.picturePlace = PlaceOf(screen.Polozajslike);
+    model.textPlace = PlaceOf(screen.Polozajteksta).value_or(ScreenPlace::Center);
     return model;
 }
 

@@ -32,7 +32,7 @@ struct ScreenModel {
     ScreenPlace textPlace = ScreenPlace::Center;
 };
 
-ScreenModel MakeScreenModel(const ScreenSpec& spec);
+ScreenModel MakeScreenModel(const ScreenSpec& screen);
 
 /// The seconds that a stored time says, 1 to 60, fractions cut; 5 for any other text.
 int ScreenSeconds(std::string_view text);

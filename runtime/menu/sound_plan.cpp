@@ -13,13 +13,13 @@ constexpr int MostPauseSeconds = 60;
 
 } // namespace
 
-BackgroundSound MakeBackgroundSound(const SoundSpec& spec) {
-    return {spec.Fajl, !spec.Akcija, std::clamp<int>(spec.Ponovi, 1, MostRounds),
-            std::chrono::seconds(std::clamp<int>(spec.Pauza, 1, MostPauseSeconds))};
+BackgroundSound MakeBackgroundSound(const SoundSpec& sound) {
+    return {sound.Fajl, !sound.Akcija, std::clamp<int>(sound.Ponovi, 1, MostRounds),
+            std::chrono::seconds(std::clamp<int>(sound.Pauza, 1, MostPauseSeconds))};
 }
 
-std::string ClickSoundFile(const SoundSpec& spec) {
-    return spec.Signal ? spec.SignalFajl : std::string();
+std::string ClickSoundFile(const SoundSpec& sound) {
+    return sound.Signal ? sound.SignalFajl : std::string();
 }
 
 std::optional<std::chrono::seconds> SoundRounds::EndRound() {

@@ -17,10 +17,10 @@ struct BackgroundSound {
     std::chrono::seconds pause{1}; ///< between two rounds, 1 to 60
 };
 
-BackgroundSound MakeBackgroundSound(const SoundSpec& spec);
+BackgroundSound MakeBackgroundSound(const SoundSpec& sound);
 
 /// The sound of pointing and clicking: a name in the package; "" for none.
-std::string ClickSoundFile(const SoundSpec& spec);
+std::string ClickSoundFile(const SoundSpec& sound);
 
 /// What of a background sound is still to be played.
 class SoundRounds {

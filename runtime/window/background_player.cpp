@@ -33,7 +33,7 @@ constexpr std::chrono::seconds LongestEnd{5};
 class BackgroundPlayer::Worker {
 public:
     Worker(std::filesystem::path package, BackgroundSound sound)
-        : package_(std::move(package)), spec_(std::move(sound)), rounds_(spec_) {}
+        : package_(std::move(package)), plan_(std::move(sound)), rounds_(plan_) {}
 
     /// Makes the window and serves it until it is closed.
     void Run(std::promise<void>& made) {
@@ -104,7 +104,7 @@ private:
     void OpenIgnoringErrors() {
         try {
             if (!file_) {
-                file_.emplace(package_, spec_.file, [this] { return ending_.load(); });
+                file_.emplace(package_, plan_.file, [this] { return ending_.load(); });
             }
             sound_.emplace(file_->Path());
         } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): it stays silent
@@ -143,7 +143,7 @@ private:
     }
 
     std::filesystem::path package_;
-    BackgroundSound spec_;
+    BackgroundSound plan_;
     SoundRounds rounds_;
     std::optional<UnpackedFile> file_;
     std::optional<MciSound> sound_;

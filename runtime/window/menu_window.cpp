@@ -200,7 +200,7 @@ bool MenuWindow::OnKey(WPARAM key, bool repeated) {
         return true;
     }
     if (key == VK_ESCAPE) {
-        End(WindowEnd::Done);
+        run_.End(WindowEnd::Done);
         return true;
     }
     if (key != VK_RETURN && key != VK_SPACE) {
@@ -252,14 +252,7 @@ void MenuWindow::RunButton(std::size_t button) {
     }
     running_ = false;
     if (outcome.closesMenu) {
-        End(WindowEnd::Done);
-    }
-}
-
-void MenuWindow::End(WindowEnd end) {
-    if (!end_) {
-        end_ = end;
-        PostQuitMessage(0);
+        run_.End(WindowEnd::Done);
     }
 }
 
@@ -286,11 +279,11 @@ LRESULT MenuWindow::Handle(UINT message, WPARAM wide, LPARAM lng) {
         }
         break;
     case WM_CLOSE:
-        End(WindowEnd::Done);
+        run_.End(WindowEnd::Done);
         return 0;
     case WM_ENDSESSION:
         if (wide != FALSE) {
-            End(WindowEnd::Program);
+            run_.End(WindowEnd::Program);
         }
         return 0;
     default:

@@ -31,7 +31,7 @@ public:
     bool Show(HINSTANCE instance);
     /// Returns when the user has closed the menu or the system ends the program; the window stands
     /// until Hide.
-    WindowEnd Run() { return RunMessages(end_); }
+    WindowEnd Run() { return run_.UntilEnd(); }
     void Hide() { ShowWindow(window_, SW_HIDE); }
 
 private:
@@ -58,7 +58,6 @@ private:
     void ScrollTo(int scroll);
     void ShowSelection();
     void RunButton(std::size_t button);
-    void End(WindowEnd end);
 
     AutorunDisc& disc_;
     const Look& look_;
@@ -77,7 +76,7 @@ private:
     int scroll_ = 0;
     std::optional<int> thumbGrip_; ///< where in the scroll bar's thumb it is held
     bool running_ = false;         ///< a command is being started
-    std::optional<WindowEnd> end_;
+    WindowRun run_;
 };
 
 } // namespace tavmoor

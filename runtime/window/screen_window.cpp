@@ -91,13 +91,6 @@ void ScreenWindow::Paint(HDC target, Extent client) {
                    DrawAlign(layout.align));
 }
 
-void ScreenWindow::End(WindowEnd end) {
-    if (!end_) {
-        end_ = end;
-        PostQuitMessage(0);
-    }
-}
-
 LRESULT ScreenWindow::Handle(UINT message, WPARAM wide, LPARAM lng) {
     switch (message) {
     case WM_PAINT:
@@ -109,14 +102,14 @@ LRESULT ScreenWindow::Handle(UINT message, WPARAM wide, LPARAM lng) {
         TakeDpi(LOWORD(wide));
         return 0;
     case WM_TIMER:
-        End(WindowEnd::Done);
+        run_.End(WindowEnd::Done);
         return 0;
     case WM_CLOSE:
-        End(WindowEnd::Program);
+        run_.End(WindowEnd::Program);
         return 0;
     case WM_ENDSESSION:
         if (wide != FALSE) {
-            End(WindowEnd::Program);
+            run_.End(WindowEnd::Program);
         }
         return 0;
     default:
@@ -132,13 +125,13 @@ LRESULT ScreenWindow::HandleInput(UINT message, WPARAM wide, LPARAM lng) {
     case WM_LBUTTONUP:
         // One that was pressed elsewhere is no click on this window.
         if (pressed_ && model_.clickCloses) {
-            End(WindowEnd::Done);
+            run_.End(WindowEnd::Done);
         }
         return 0;
     case WM_KEYDOWN:
         // A key may still be held that brought this window.
         if (model_.clickCloses && IsClosingKey(wide) && !WasDownBefore(lng)) {
-            End(WindowEnd::Done);
+            run_.End(WindowEnd::Done);
         }
         return 0;
     case WM_SETCURSOR:

@@ -7,7 +7,6 @@
 #include "window/window_class.h"
 
 #include <memory>
-#include <optional>
 
 namespace tavmoor {
 
@@ -25,7 +24,7 @@ public:
     bool Show(HINSTANCE instance);
     /// Returns when the time is over or the user has ended it; the window stands until Close, so
     /// that what follows can be shown before it goes.
-    WindowEnd Run() { return RunMessages(end_); }
+    WindowEnd Run() { return run_.UntilEnd(); }
     void Close();
 
 private:
@@ -37,7 +36,6 @@ private:
     [[nodiscard]] ScreenRequest Request();
     void TakeDpi(int dpi);
     void Paint(HDC target, Extent client);
-    void End(WindowEnd end);
 
     AutorunDisc& disc_;
     const Look& look_;
@@ -47,7 +45,7 @@ private:
     HWND window_ = nullptr;
     int dpi_ = 96;
     bool pressed_ = false;
-    std::optional<WindowEnd> end_;
+    WindowRun run_;
 };
 
 } // namespace tavmoor

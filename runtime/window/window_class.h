@@ -48,4 +48,20 @@ void RegisterWindowClass(HINSTANCE instance, const wchar_t* name, WNDPROC proced
 /// @param end set by the window that says so
 WindowEnd RunMessages(const std::optional<WindowEnd>& end);
 
+/// The time of a window that something else follows: it runs until the window is ended, the first
+/// end counts.
+class WindowRun {
+public:
+    void End(WindowEnd end) {
+        if (!end_) {
+            end_ = end;
+            PostQuitMessage(0);
+        }
+    }
+    WindowEnd UntilEnd() { return RunMessages(end_); }
+
+private:
+    std::optional<WindowEnd> end_;
+};
+
 } // namespace tavmoor
