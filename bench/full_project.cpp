@@ -1,7 +1,7 @@
 #include "full_project.h"
 
-#include "core/field_text.h"
-#include "core/project_reset.h"
+#include "core/document/field_text.h"
+#include "core/document/project_reset.h"
 
 namespace tavmoor::bench {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "core/project_document.h"
+#include "core/document/project_document.h"
 
 namespace tavmoor::bench {
 

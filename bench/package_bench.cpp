@@ -1,7 +1,7 @@
 #include "work_folder.h"
 
 #include "build/package_writer.h"
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,11 +1,11 @@
 #include "full_project.h"
 #include "work_folder.h"
 
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/project_reader.h"
-#include "core/project_reset.h"
-#include "core/project_writer.h"
+#include "core/document/project_reader.h"
+#include "core/document/project_reset.h"
+#include "core/document/project_writer.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
 
 #include <benchmark/benchmark.h>
 #include <glib.h>

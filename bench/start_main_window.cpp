@@ -1,6 +1,6 @@
 #include "app/program_application.h"
 #include "app/start_program.h"
-#include "core/run_marker.h"
+#include "core/session/run_marker.h"
 #include "first_paint.h"
 
 /// The program as it starts, up to the painted main window; then it ends at once.

@@ -1,6 +1,6 @@
 #include "work_folder.h"
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "templates/template_catalogue.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 #include "work_folder.h"
 
-#include "core/document_path.h"
-#include "core/project_reset.h"
-#include "core/project_writer.h"
+#include "core/document/project_reset.h"
+#include "core/document/project_writer.h"
+#include "core/files/document_path.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,9 +1,9 @@
 // Stands in for the file store: what a fuzzed project names must never reach the machine's files,
 // where a path could lead to a device. The linker takes these functions in place of the library's.
 
-#include "core/file_store.h"
-#include "core/runtime_error.h"
-#include "core/text_case.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
+#include "core/text/text_case.h"
 
 namespace tavmoor {
 

@@ -2,8 +2,8 @@
 // values are cut.
 
 #include "check.h"
-#include "core/profile_file.h"
-#include "core/text_case.h"
+#include "core/files/profile_file.h"
+#include "core/text/text_case.h"
 
 #include <algorithm>
 #include <map>

@@ -1,11 +1,11 @@
 // Any bytes as a project file: what is read and written comes back the same when it is read and
 // written again.
 
-#include "core/project_reader.h"
+#include "core/document/project_reader.h"
 #include "check.h"
-#include "core/field_writer.h"
-#include "core/profile_file.h"
-#include "core/project_reset.h"
+#include "core/document/field_writer.h"
+#include "core/document/project_reset.h"
+#include "core/files/profile_file.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,10 +1,10 @@
 // Writes the first inputs and the dictionaries of the fuzz targets:
 //   fuzz_seeds FOLDER   makes FOLDER/<target>/ and FOLDER/<target>.dict
 
-#include "core/field_text.h"
-#include "core/field_writer.h"
-#include "core/project_fields.h"
-#include "core/project_reset.h"
+#include "core/document/field_text.h"
+#include "core/document/field_writer.h"
+#include "core/document/project_fields.h"
+#include "core/document/project_reset.h"
 #include "support/package_bytes.h"
 #include "support/pe_image.h"
 

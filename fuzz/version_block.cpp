@@ -2,7 +2,7 @@
 
 #include "build/version_block.h"
 #include "check.h"
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 
 #include <algorithm>
 #include <string>

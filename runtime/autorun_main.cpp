@@ -1,4 +1,4 @@
-#include "core/program_folder.h"
+#include "core/files/program_folder.h"
 #include "looks/looks.h"
 #include "window/menu_window.h"
 #include "window/package_fonts.h"

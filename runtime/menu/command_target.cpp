@@ -1,8 +1,8 @@
 #include "menu/command_target.h"
 
-#include "core/document_path.h"
-#include "core/text_case.h"
-#include "core/value_encoding.h"
+#include "core/files/document_path.h"
+#include "core/text/text_case.h"
+#include "core/text/value_encoding.h"
 
 #include <algorithm>
 #include <array>

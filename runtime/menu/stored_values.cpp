@@ -1,9 +1,9 @@
 #include "menu/stored_values.h"
 
-#include "core/code_page.h"
-#include "core/number_text.h"
-#include "core/text_case.h"
-#include "core/value_encoding.h"
+#include "core/text/code_page.h"
+#include "core/text/number_text.h"
+#include "core/text/text_case.h"
+#include "core/text/value_encoding.h"
 
 #include <algorithm>
 

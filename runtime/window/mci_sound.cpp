@@ -1,6 +1,6 @@
 #include "window/mci_sound.h"
 
-#include "core/text_case.h"
+#include "core/text/text_case.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "app/program_application.h"
 #include "app/start_program.h"
 
-#include "core/run_marker.h"
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
+#include "core/session/run_marker.h"
 #include "services/message_box.h"
 #include "services/qt_text.h"
 

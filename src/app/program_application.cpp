@@ -1,6 +1,6 @@
 #include "app/program_application.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 #include "services/artwork.h"
 #include "services/maker.h"
 #include "services/message_box.h"

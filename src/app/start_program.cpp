@@ -1,8 +1,8 @@
 #include "app/start_program.h"
 
-#include "core/build_folder.h"
-#include "core/program_folder.h"
-#include "core/run_marker.h"
+#include "core/files/build_folder.h"
+#include "core/files/program_folder.h"
+#include "core/session/run_marker.h"
 #include "services/autorun_check.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"

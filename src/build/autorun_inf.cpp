@@ -1,6 +1,6 @@
 #include "build/autorun_inf.h"
 
-#include "core/file_store.h"
+#include "core/files/file_store.h"
 
 namespace tavmoor {
 

@@ -5,14 +5,14 @@
 #include "build/package_format.h"
 #include "build/package_writer.h"
 #include "build/runtime_configuration.h"
-#include "core/build_folder.h"
-#include "core/character_checks.h"
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/project_fields.h"
-#include "core/project_reader.h"
-#include "core/runtime_error.h"
-#include "core/text_case.h"
+#include "core/document/project_fields.h"
+#include "core/document/project_reader.h"
+#include "core/files/build_folder.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
+#include "core/text/character_checks.h"
+#include "core/text/text_case.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "build/build_events.h"
-#include "core/project_document.h"
+#include "core/document/project_document.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 #include "build/marked_programs.h"
 
 #include "build/version_block.h"
-#include "core/document_path.h"
-#include "core/file_store.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
 
 namespace tavmoor {
 

@@ -4,10 +4,10 @@
 #include "build/marked_programs.h"
 #include "build/package_format.h"
 #include "build/package_reader.h"
-#include "core/document_path.h"
-#include "core/field_writer.h"
-#include "core/file_store.h"
-#include "core/runtime_error.h"
+#include "core/document/field_writer.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
 
 #include <fstream>
 #include <optional>

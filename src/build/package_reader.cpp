@@ -2,8 +2,8 @@
 
 #include "build/name_scrambling.h"
 #include "build/package_format.h"
-#include "core/runtime_error.h"
-#include "core/text_case.h"
+#include "core/files/runtime_error.h"
+#include "core/text/text_case.h"
 
 #include <algorithm>
 #include <array>

@@ -2,11 +2,11 @@
 
 #include "build/name_scrambling.h"
 #include "build/package_format.h"
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/runtime_error.h"
-#include "core/sequential_output.h"
-#include "core/value_encoding.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
+#include "core/files/sequential_output.h"
+#include "core/text/value_encoding.h"
 
 #include <algorithm>
 #include <array>

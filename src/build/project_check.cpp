@@ -3,13 +3,13 @@
 #include "build/build_driver.h"
 #include "build/name_scrambling.h"
 #include "build/package_format.h"
-#include "core/character_checks.h"
-#include "core/code_page.h"
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/project_fields.h"
-#include "core/text_case.h"
-#include "core/value_encoding.h"
+#include "core/document/project_fields.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/text/character_checks.h"
+#include "core/text/code_page.h"
+#include "core/text/text_case.h"
+#include "core/text/value_encoding.h"
 
 #include <algorithm>
 #include <string_view>

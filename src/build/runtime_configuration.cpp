@@ -1,9 +1,9 @@
 #include "build/runtime_configuration.h"
 
 #include "build/package_format.h"
-#include "core/document_path.h"
-#include "core/field_writer.h"
-#include "core/file_store.h"
+#include "core/document/field_writer.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
 
 namespace tavmoor {
 

@@ -1,8 +1,8 @@
 #include "build/version_block.h"
 
 #include "build/little_endian.h"
-#include "core/code_page.h"
-#include "core/text_case.h"
+#include "core/text/code_page.h"
+#include "core/text/text_case.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 #include "build/build_driver.h"
 #include "build/output_check.h"
 #include "console.h"
-#include "core/document_path.h"
-#include "core/runtime_error.h"
+#include "core/files/document_path.h"
+#include "core/files/runtime_error.h"
 #include "open_project.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "console.h"
 
-#include "core/code_page.h"
-#include "core/document_path.h"
-#include "core/runtime_error.h"
+#include "core/files/document_path.h"
+#include "core/files/runtime_error.h"
+#include "core/text/code_page.h"
 
 #include <algorithm>
 #include <cctype>

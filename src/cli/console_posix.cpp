@@ -1,7 +1,7 @@
 #include "console.h"
 
-#include "core/build_folder.h"
-#include "core/document_path.h"
+#include "core/files/build_folder.h"
+#include "core/files/document_path.h"
 
 #include <array>
 #include <cerrno>

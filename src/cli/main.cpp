@@ -2,8 +2,8 @@
 
 #include "build/package_reader.h"
 #include "console.h"
-#include "core/recovery_folder.h"
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
+#include "core/session/recovery_folder.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,10 +1,10 @@
 #include "open_project.h"
 
 #include "console.h"
-#include "core/file_store.h"
-#include "core/program_folder.h"
-#include "core/project_reader.h"
-#include "core/project_reset.h"
+#include "core/document/project_reader.h"
+#include "core/document/project_reset.h"
+#include "core/files/file_store.h"
+#include "core/files/program_folder.h"
 
 namespace tavmoor::cli {
 

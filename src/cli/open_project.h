@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/profile_file.h"
-#include "core/project_document.h"
+#include "core/document/project_document.h"
+#include "core/files/profile_file.h"
 
 #include <memory>
 #include <optional>

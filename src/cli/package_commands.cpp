@@ -2,7 +2,7 @@
 
 #include "build/package_reader.h"
 #include "console.h"
-#include "core/file_store.h"
+#include "core/files/file_store.h"
 #include "open_project.h"
 #include "templates/template_catalogue.h"
 #include "templates/template_descriptor.h"

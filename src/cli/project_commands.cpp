@@ -3,12 +3,12 @@
 #include "build/build_driver.h"
 #include "build/project_check.h"
 #include "console.h"
-#include "core/field_text.h"
-#include "core/field_writer.h"
-#include "core/file_store.h"
-#include "core/project_reader.h"
-#include "core/project_reset.h"
-#include "core/project_writer.h"
+#include "core/document/field_text.h"
+#include "core/document/field_writer.h"
+#include "core/document/project_reader.h"
+#include "core/document/project_reset.h"
+#include "core/document/project_writer.h"
+#include "core/files/file_store.h"
 #include "open_project.h"
 
 #include <nlohmann/json.hpp>

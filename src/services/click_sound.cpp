@@ -1,7 +1,7 @@
 #include "services/click_sound.h"
 
-#include "core/document_path.h"
-#include "core/file_store.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
 #include "services/native_path_text.h"
 #include "services/service_slot.h"
 #include "services/sound_output.h"

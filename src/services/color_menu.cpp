@@ -1,6 +1,6 @@
 #include "services/color_menu.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 #include "services/color_from_picture_window.h"
 #include "services/color_value.h"
 #include "services/common_dialog.h"

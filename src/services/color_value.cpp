@@ -1,6 +1,6 @@
 #include "services/color_value.h"
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 
 #include <array>
 

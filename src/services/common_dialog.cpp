@@ -1,9 +1,9 @@
 #include "services/common_dialog.h"
 
-#include "core/document_path.h"
-#include "core/program_folder.h"
-#include "core/runtime_error.h"
-#include "core/value_encoding.h"
+#include "core/files/document_path.h"
+#include "core/files/program_folder.h"
+#include "core/files/runtime_error.h"
+#include "core/text/value_encoding.h"
 #include "services/color_value.h"
 #include "services/custom_colors.h"
 #include "services/message_box.h"

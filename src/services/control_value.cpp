@@ -1,6 +1,6 @@
 #include "services/control_value.h"
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 #include "services/color_box.h"
 #include "services/color_value.h"
 #include "services/font_spec.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/field_access.h"
+#include "core/document/field_access.h"
 #include "services/field_binding.h"
 
 class QWidget;

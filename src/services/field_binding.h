@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/project_document.h"
-#include "core/project_fields.h"
+#include "core/document/project_document.h"
+#include "core/document/project_fields.h"
 
 #include <QObject>
 #include <QString>

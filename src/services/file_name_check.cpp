@@ -1,6 +1,6 @@
 #include "services/file_name_check.h"
 
-#include "core/character_checks.h"
+#include "core/text/character_checks.h"
 #include "services/message_box.h"
 #include "services/qt_text.h"
 

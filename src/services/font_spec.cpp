@@ -1,7 +1,7 @@
 #include "services/font_spec.h"
 
-#include "core/number_text.h"
-#include "core/value_encoding.h"
+#include "core/text/number_text.h"
+#include "core/text/value_encoding.h"
 #include "services/qt_text.h"
 
 namespace tavmoor {

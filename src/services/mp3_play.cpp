@@ -1,8 +1,8 @@
 #include "services/mp3_play.h"
 
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/number_text.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/text/number_text.h"
 #include "services/maker.h"
 #include "services/media_device.h"
 #include "services/message_box.h"

@@ -1,7 +1,7 @@
 #include "services/picture_loader.h"
 
-#include "core/file_store.h"
-#include "core/runtime_error.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
 #include "services/emf_player.h"
 #include "services/icon_directory.h"
 #include "services/metafile_outline.h"

@@ -1,7 +1,7 @@
 #include "services/program_session.h"
 
-#include "core/build_folder.h"
-#include "core/document_path.h"
+#include "core/files/build_folder.h"
+#include "core/files/document_path.h"
 
 namespace tavmoor {
 

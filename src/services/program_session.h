@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/program_settings.h"
-#include "core/project_document.h"
-#include "core/project_reset.h"
-#include "core/recovery_folder.h"
+#include "core/document/project_document.h"
+#include "core/document/project_reset.h"
+#include "core/session/program_settings.h"
+#include "core/session/recovery_folder.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "services/project_save_dialog.h"
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "services/message_box.h"
 #include "services/qt_text.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/project_writer.h"
+#include "core/document/project_writer.h"
 #include "services/common_dialog.h"
 
 namespace tavmoor {

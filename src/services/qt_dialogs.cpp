@@ -1,6 +1,6 @@
 #include "services/qt_dialogs.h"
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "services/file_filter.h"
 #include "services/font_dialog.h"
 #include "services/native_path_text.h"

@@ -1,6 +1,6 @@
 #include "services/qt_text.h"
 
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 
 namespace tavmoor {
 

@@ -1,5 +1,5 @@
-#include "core/durable_file.h"
-#include "core/program_folder.h"
+#include "core/files/durable_file.h"
+#include "core/files/program_folder.h"
 #include "services/native_path_text.h"
 #include "services/registry_store.h"
 

@@ -1,6 +1,6 @@
 #include "services/rich_text_parser.h"
 
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 #include "services/character_set.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "services/rich_text_reader.h"
 
-#include "core/file_store.h"
-#include "core/runtime_error.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
 #include "services/rich_text_parser.h"
 
 #include <QTextBlockFormat>

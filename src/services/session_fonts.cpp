@@ -1,6 +1,6 @@
 #include "services/session_fonts.h"
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "services/native_path_text.h"
 #include "services/service_slot.h"
 

@@ -1,7 +1,7 @@
 #include "services/shell.h"
 
-#include "core/document_path.h"
-#include "core/file_store.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
 #include "services/qt_text.h"
 #include "services/service_slot.h"
 

@@ -1,6 +1,6 @@
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/runtime_error.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
 #include "services/shell.h"
 #include "services/wide_text_windows.h"
 

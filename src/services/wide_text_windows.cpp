@@ -1,6 +1,6 @@
 #include "services/wide_text_windows.h"
 
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 
 #include <windows.h>
 

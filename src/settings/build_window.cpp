@@ -1,9 +1,9 @@
 #include "settings/build_window.h"
 
 #include "build/output_check.h"
-#include "core/build_folder.h"
-#include "core/document_path.h"
-#include "core/runtime_error.h"
+#include "core/files/build_folder.h"
+#include "core/files/document_path.h"
+#include "core/files/runtime_error.h"
 #include "services/message_box.h"
 #include "services/picture_button.h"
 #include "services/program_session.h"

@@ -1,6 +1,6 @@
 #include "settings/command_descriptions_window.h"
 
-#include "core/value_encoding.h"
+#include "core/text/value_encoding.h"
 #include "services/color_pick.h"
 #include "services/color_value.h"
 #include "services/field_binding.h"

@@ -1,6 +1,6 @@
 #include "settings/disc_target.h"
 
-#include "core/value_encoding.h"
+#include "core/text/value_encoding.h"
 #include "settings/field_pickers.h"
 
 namespace tavmoor {

@@ -1,9 +1,9 @@
 #include "settings/field_pickers.h"
 
-#include "core/document_path.h"
-#include "core/number_text.h"
-#include "core/runtime_error.h"
-#include "core/value_encoding.h"
+#include "core/files/document_path.h"
+#include "core/files/runtime_error.h"
+#include "core/text/number_text.h"
+#include "core/text/value_encoding.h"
 #include "services/common_dialog.h"
 #include "services/file_name_check.h"
 #include "services/program_session.h"

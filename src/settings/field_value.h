@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/project_fields.h"
+#include "core/document/project_fields.h"
 
 #include <QtGlobal>
 

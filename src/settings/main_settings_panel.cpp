@@ -1,6 +1,6 @@
 #include "settings/main_settings_panel.h"
 
-#include "core/text_case.h"
+#include "core/text/text_case.h"
 #include "services/color_box.h"
 #include "services/common_dialog.h"
 #include "services/file_name_check.h"

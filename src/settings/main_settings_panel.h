@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/file_stamp.h"
+#include "core/files/file_stamp.h"
 #include "settings/panel.h"
 
 #include <string>

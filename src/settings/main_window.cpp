@@ -1,7 +1,7 @@
 #include "settings/main_window.h"
 
-#include "core/program_settings.h"
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
+#include "core/session/program_settings.h"
 #include "services/maker.h"
 #include "services/message_box.h"
 #include "services/picture_button.h"

@@ -1,6 +1,6 @@
 #include "settings/program_settings_window.h"
 
-#include "core/build_folder.h"
+#include "core/files/build_folder.h"
 #include "services/autorun_check_window.h"
 #include "services/common_dialog.h"
 #include "services/path_box.h"

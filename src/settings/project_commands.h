@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/profile_file.h"
+#include "core/files/profile_file.h"
 #include "services/common_dialog.h"
 #include "services/window_registry.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/project_reader.h"
+#include "core/document/project_reader.h"
 #include "services/window_registry.h"
 
 class QWidget;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/project_document.h"
+#include "core/document/project_document.h"
 #include "settings/picture_field.h"
 
 #include <array>

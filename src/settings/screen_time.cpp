@@ -1,6 +1,6 @@
 #include "settings/screen_time.h"
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 
 #include <cmath>
 

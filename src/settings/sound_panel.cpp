@@ -1,6 +1,6 @@
 #include "settings/sound_panel.h"
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "services/click_sound.h"
 #include "services/file_name_check.h"
 #include "services/mp3_play.h"

@@ -1,6 +1,6 @@
 #include "settings/step_checks.h"
 
-#include "core/text_case.h"
+#include "core/text/text_case.h"
 #include "services/message_box.h"
 #include "services/program_session.h"
 #include "services/shell_report.h"

@@ -1,9 +1,9 @@
 #include "templates/template_catalogue.h"
 
-#include "core/document_path.h"
-#include "core/file_store.h"
-#include "core/project_reader.h"
-#include "core/text_case.h"
+#include "core/document/project_reader.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "core/text/text_case.h"
 #include "templates/template_descriptor.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "templates/template_descriptor.h"
 
-#include "core/number_text.h"
-#include "core/profile_file.h"
+#include "core/files/profile_file.h"
+#include "core/text/number_text.h"
 
 namespace tavmoor {
 

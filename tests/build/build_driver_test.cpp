@@ -1,9 +1,9 @@
 #include "build/build_driver.h"
 
 #include "build/package_reader.h"
-#include "core/field_writer.h"
-#include "core/profile_file.h"
-#include "core/runtime_error.h"
+#include "core/document/field_writer.h"
+#include "core/files/profile_file.h"
+#include "core/files/runtime_error.h"
 #include "support/build_project.h"
 #include "support/recording_build_events.h"
 

@@ -1,6 +1,6 @@
 #include "build/name_scrambling.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 
 #include <gtest/gtest.h>
 

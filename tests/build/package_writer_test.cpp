@@ -1,6 +1,6 @@
 #include "build/package_writer.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 #include "support/recording_build_events.h"
 #include "support/temporary_folder.h"
 

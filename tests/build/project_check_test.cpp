@@ -1,7 +1,7 @@
 #include "build/project_check.h"
 
-#include "core/code_page.h"
-#include "core/project_reader.h"
+#include "core/document/project_reader.h"
+#include "core/text/code_page.h"
 #include "support/build_project.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "build/runtime_configuration.h"
 
-#include "core/field_writer.h"
-#include "core/runtime_error.h"
+#include "core/document/field_writer.h"
+#include "core/files/runtime_error.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "core/build_folder.h"
+#include "core/files/build_folder.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 
-#include "core/code_page.h"
-#include "core/file_store.h"
-#include "core/runtime_error.h"
+#include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
+#include "core/text/code_page.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "core/character_checks.h"
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
+#include "core/text/character_checks.h"
 
 #include <gtest/gtest.h>
 

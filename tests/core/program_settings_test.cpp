@@ -1,6 +1,6 @@
-#include "core/program_settings.h"
+#include "core/session/program_settings.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

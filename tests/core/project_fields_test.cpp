@@ -1,6 +1,6 @@
-#include "core/project_fields.h"
+#include "core/document/project_fields.h"
 
-#include "core/profile_file.h"
+#include "core/files/profile_file.h"
 #include "support/full_project.h"
 
 #include <gtest/gtest.h>

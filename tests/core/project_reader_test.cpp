@@ -1,6 +1,6 @@
-#include "core/project_reader.h"
+#include "core/document/project_reader.h"
 
-#include "core/project_reset.h"
+#include "core/document/project_reset.h"
 #include "support/field_check.h"
 #include "support/temporary_folder.h"
 

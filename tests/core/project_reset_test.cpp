@@ -1,4 +1,4 @@
-#include "core/project_reset.h"
+#include "core/document/project_reset.h"
 
 #include "support/field_check.h"
 

@@ -1,10 +1,10 @@
-#include "core/recovery_folder.h"
+#include "core/session/recovery_folder.h"
 
-#include "core/document_path.h"
-#include "core/profile_file.h"
-#include "core/project_reset.h"
-#include "core/project_writer.h"
-#include "core/run_marker.h"
+#include "core/document/project_reset.h"
+#include "core/document/project_writer.h"
+#include "core/files/document_path.h"
+#include "core/files/profile_file.h"
+#include "core/session/run_marker.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "core/project_reset.h"
-#include "core/project_writer.h"
-#include "core/recovery_folder.h"
-#include "core/runtime_error.h"
+#include "core/document/project_reset.h"
+#include "core/document/project_writer.h"
+#include "core/files/runtime_error.h"
+#include "core/session/recovery_folder.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "core/value_encoding.h"
+#include "core/text/value_encoding.h"
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 
 #include <gtest/gtest.h>
 

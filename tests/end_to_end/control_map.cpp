@@ -1,4 +1,4 @@
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"
 #include "services/theme.h"

@@ -1,5 +1,5 @@
-#include "core/document_path.h"
-#include "core/project_reader.h"
+#include "core/document/project_reader.h"
+#include "core/files/document_path.h"
 #include "services/message_box.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/profile_file.h"
-#include "core/project_reader.h"
-#include "core/project_reset.h"
+#include "core/document/project_reader.h"
+#include "core/document/project_reset.h"
+#include "core/files/profile_file.h"
 #include "menu/menu_layout.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "menu/menu_model.h"
 
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 #include "looks/looks.h"
 #include "runtime/menu_fixture.h"
 

@@ -1,7 +1,7 @@
 #include "services/common_dialog.h"
 
-#include "core/program_folder.h"
-#include "core/runtime_error.h"
+#include "core/files/program_folder.h"
+#include "core/files/runtime_error.h"
 #include "services/project_save_dialog.h"
 #include "support/scripted_answers.h"
 #include "support/scripted_dialogs.h"

@@ -1,5 +1,5 @@
-#include "core/code_page.h"
-#include "core/project_reset.h"
+#include "core/document/project_reset.h"
+#include "core/text/code_page.h"
 #include "services/color_box.h"
 #include "services/field_binding.h"
 #include "services/path_box.h"

@@ -1,6 +1,6 @@
 #include "services/session_fonts.h"
 
-#include "core/project_document.h"
+#include "core/document/project_document.h"
 #include "services/service_slot.h"
 #include "support/temporary_folder.h"
 

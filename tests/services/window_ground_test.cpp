@@ -1,4 +1,4 @@
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 #include "services/message_box.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"

@@ -2,7 +2,7 @@
 #include "support/program_windows.h"
 #include "support/recording_shell.h"
 
-#include "core/runtime_error.h"
+#include "core/files/runtime_error.h"
 #include "services/status_label.h"
 #include "settings/build_window.h"
 

@@ -1,6 +1,6 @@
 #include "settings/main_settings_panel.h"
 
-#include "core/project_reset.h"
+#include "core/document/project_reset.h"
 #include "services/color_box.h"
 #include "services/value_label.h"
 #include "support/plain_window.h"

@@ -1,7 +1,7 @@
 #include "support/program_windows.h"
 
-#include "core/profile_file.h"
-#include "core/project_writer.h"
+#include "core/document/project_writer.h"
+#include "core/files/profile_file.h"
 #include "services/native_path_text.h"
 #include "settings/main_window.h"
 

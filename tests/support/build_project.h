@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/project_reset.h"
+#include "core/document/project_reset.h"
 #include "support/pe_image.h"
 #include "support/temporary_folder.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/field_text.h"
-#include "core/profile_file.h"
+#include "core/document/field_text.h"
+#include "core/files/profile_file.h"
 #include "support/full_project.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "services/program_session.h"
 #include "services/skinned_window.h"
 #include "services/window_registry.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 
 #include <chrono>
 #include <filesystem>

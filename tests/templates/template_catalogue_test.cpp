@@ -1,6 +1,6 @@
 #include "templates/template_catalogue.h"
 
-#include "core/document_path.h"
+#include "core/files/document_path.h"
 #include "support/temporary_folder.h"
 #include "templates/template_descriptor.h"
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/files/sequential_output.h"
+
+namespace tavmoor {
+
+class SequentialOutput::Platform {
+public:
+    Platform() = default;
+    Platform(const Platform&) = delete;
+    Platform& operator=(const Platform&) = delete;
+    ~Platform() { Close(); }
+
+    std::error_code Open(const std::filesystem::path& path, std::uint64_t expectedSize);
+    std::error_code Write(std::string_view bytes);
+    std::error_code Close();
+
+private:
+    static constexpr std::intptr_t NoFile = -1; ///< of both platforms
+
+    std::intptr_t file_ = NoFile;
+};
+
+} // namespace tavmoor

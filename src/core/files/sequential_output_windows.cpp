@@ -1,0 +1,48 @@
+#include "core/files/sequential_output_platform.h"
+
+#include <windows.h>
+
+namespace tavmoor {
+
+namespace {
+
+std::error_code LastError() {
+    return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
+HANDLE HandleOf(std::intptr_t file) {
+    return reinterpret_cast<HANDLE>(file);
+}
+
+} // namespace
+
+std::error_code SequentialOutput::Platform::Open(const std::filesystem::path& path,
+                                                 std::uint64_t /*expectedSize*/) {
+    // Space asked for in advance would have to be filled with zeros first.
+    file_ = reinterpret_cast<std::intptr_t>(CreateFileW(
+        path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return file_ == NoFile ? LastError() : std::error_code();
+}
+
+std::error_code SequentialOutput::Platform::Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        DWORD written = 0;
+        if (WriteFile(HandleOf(file_), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
+                      nullptr) == 0) {
+            return LastError();
+        }
+        bytes.remove_prefix(written);
+    }
+    return {};
+}
+
+std::error_code SequentialOutput::Platform::Close() {
+    if (file_ == NoFile) {
+        return {};
+    }
+    const HANDLE file = HandleOf(file_);
+    file_ = NoFile;
+    return CloseHandle(file) == 0 ? LastError() : std::error_code();
+}
+
+} // namespace tavmoor
