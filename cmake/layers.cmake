@@ -21,9 +21,9 @@ function(tavmoor_layer name)
     target_link_libraries(tavmoor_${name} PUBLIC ${LAYER_DEPENDS})
 endfunction()
 
-# A room: a folder of a layer, built as tavmoor_<layer>_<room> on the rooms of the same layer and
-# the targets that it names. POSIX and WINDOWS sources belong to these systems alone. The sum of the
-# layer, tavmoor_<layer>, links every room.
+# A room: a folder of a layer, built as tavmoor_<layer>_<room>. It sees the rooms of the same layer
+# (ROOMS) and the other targets (DEPENDS, or PRIVATE for its sources alone) that it names. POSIX and
+# WINDOWS sources belong to these systems. The sum of the layer, tavmoor_<layer>, links every room.
 function(tavmoor_room layer room)
     cmake_parse_arguments(ROOM "" "" "SOURCES;POSIX;WINDOWS;ROOMS;DEPENDS;PRIVATE" ${ARGN})
     if(WIN32)

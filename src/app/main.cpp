@@ -3,8 +3,8 @@
 
 #include "core/files/runtime_error.h"
 #include "core/session/run_marker.h"
-#include "services/message_box.h"
-#include "services/qt_text.h"
+#include "services/dialogs/message_box.h"
+#include "services/values/qt_text.h"
 
 #include <cstdlib>
 

@@ -1,11 +1,11 @@
 #include "app/program_application.h"
 
 #include "core/files/runtime_error.h"
-#include "services/artwork.h"
-#include "services/maker.h"
-#include "services/message_box.h"
-#include "services/qt_text.h"
-#include "services/theme.h"
+#include "core/text/maker.h"
+#include "services/dialogs/message_box.h"
+#include "services/look/artwork.h"
+#include "services/look/theme.h"
+#include "services/values/qt_text.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/program_session.h"
+#include "services/windows/program_session.h"
 
 #include <QApplication>
 

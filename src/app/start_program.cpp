@@ -3,9 +3,9 @@
 #include "core/files/build_folder.h"
 #include "core/files/program_folder.h"
 #include "core/session/run_marker.h"
-#include "services/autorun_check.h"
-#include "services/program_session.h"
-#include "services/skinned_window.h"
+#include "services/system/autorun_check.h"
+#include "services/windows/program_session.h"
+#include "services/windows/skinned_window.h"
 #include "settings/settings_window_list.h"
 
 namespace tavmoor {

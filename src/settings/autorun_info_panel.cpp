@@ -1,9 +1,9 @@
 #include "settings/autorun_info_panel.h"
 
-#include "services/picture_button.h"
-#include "services/text_boxes.h"
-#include "services/theme.h"
-#include "services/value_label.h"
+#include "services/controls/picture_button.h"
+#include "services/controls/text_boxes.h"
+#include "services/controls/value_label.h"
+#include "services/look/theme.h"
 #include "settings/color_pick_button.h"
 #include "settings/field_pickers.h"
 #include "settings/field_value.h"

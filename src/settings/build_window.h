@@ -1,7 +1,7 @@
 #pragma once
 
 #include "build/build_driver.h"
-#include "services/skinned_window.h"
+#include "services/windows/skinned_window.h"
 #include "settings/build_window_events.h"
 
 class QCheckBox;

@@ -1,12 +1,12 @@
 #include "settings/build_window_events.h"
 
-#include "services/color_value.h"
-#include "services/message_box.h"
-#include "services/qt_text.h"
-#include "services/shell_report.h"
-#include "services/status_label.h"
-#include "services/theme.h"
-#include "services/wait_loop.h"
+#include "services/controls/status_label.h"
+#include "services/dialogs/message_box.h"
+#include "services/dialogs/shell_report.h"
+#include "services/look/theme.h"
+#include "services/system/wait_loop.h"
+#include "services/values/color_value.h"
+#include "services/values/qt_text.h"
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "settings/color_pick_button.h"
 
-#include "services/color_box.h"
-#include "services/color_pick.h"
-#include "services/text_boxes.h"
+#include "services/colors/color_pick.h"
+#include "services/controls/color_box.h"
+#include "services/controls/text_boxes.h"
 
 #include <QPointer>
 

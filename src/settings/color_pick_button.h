@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/document/project_document.h"
-#include "services/picture_button.h"
-#include "services/window_registry.h"
+#include "services/controls/picture_button.h"
+#include "services/windows/window_registry.h"
 
 namespace tavmoor {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/document/project_document.h"
-#include "services/skinned_window.h"
+#include "services/windows/skinned_window.h"
 
 #include <string>
 

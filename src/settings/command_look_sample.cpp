@@ -1,8 +1,8 @@
 #include "settings/command_look_sample.h"
 
-#include "services/font_spec.h"
-#include "services/theme.h"
-#include "services/twips.h"
+#include "services/look/theme.h"
+#include "services/values/font_spec.h"
+#include "services/values/twips.h"
 
 #include <QEvent>
 #include <QLabel>

@@ -4,9 +4,9 @@
 #include "core/files/runtime_error.h"
 #include "core/text/number_text.h"
 #include "core/text/value_encoding.h"
-#include "services/common_dialog.h"
-#include "services/file_name_check.h"
-#include "services/program_session.h"
+#include "services/dialogs/common_dialog.h"
+#include "services/dialogs/file_name_check.h"
+#include "services/windows/program_session.h"
 
 #include <QWidget>
 

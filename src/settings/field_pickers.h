@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/document/project_document.h"
-#include "services/font_spec.h"
-#include "services/window_registry.h"
+#include "services/values/font_spec.h"
+#include "services/windows/window_registry.h"
 
 #include <QString>
 

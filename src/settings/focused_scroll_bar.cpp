@@ -1,6 +1,6 @@
 #include "settings/focused_scroll_bar.h"
 
-#include "services/theme.h"
+#include "services/look/theme.h"
 
 #include <QPainter>
 

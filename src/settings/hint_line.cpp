@@ -1,8 +1,8 @@
 #include "settings/hint_line.h"
 
-#include "services/maker.h"
-#include "services/qt_text.h"
-#include "services/theme.h"
+#include "core/text/maker.h"
+#include "services/look/theme.h"
+#include "services/values/qt_text.h"
 
 #include <QEvent>
 

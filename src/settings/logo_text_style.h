@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/font_spec.h"
+#include "services/values/font_spec.h"
 
 #include <string>
 #include <string_view>

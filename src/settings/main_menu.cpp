@@ -1,7 +1,7 @@
 #include "settings/main_menu.h"
 
-#include "services/menu_entry.h"
-#include "services/program_session.h"
+#include "services/controls/menu_entry.h"
+#include "services/windows/program_session.h"
 
 #include <QFrame>
 #include <QVBoxLayout>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "services/mp3_play.h"
-#include "services/skinned_window.h"
+#include "services/sound/mp3_play.h"
+#include "services/windows/skinned_window.h"
 #include "settings/menu_action.h"
 #include "settings/navigation_column.h"
 #include "settings/panel.h"

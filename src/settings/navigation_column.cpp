@@ -1,7 +1,7 @@
 #include "settings/navigation_column.h"
 
-#include "services/picture_button.h"
-#include "services/twips.h"
+#include "services/controls/picture_button.h"
+#include "services/values/twips.h"
 
 #include <QEvent>
 

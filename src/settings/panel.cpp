@@ -1,7 +1,7 @@
 #include "settings/panel.h"
 
-#include "services/program_session.h"
-#include "services/theme.h"
+#include "services/look/theme.h"
+#include "services/windows/program_session.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

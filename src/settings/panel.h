@@ -1,7 +1,7 @@
 #pragma once
 
-#include "services/field_binding.h"
-#include "services/window_registry.h"
+#include "services/fields/field_binding.h"
+#include "services/windows/window_registry.h"
 
 #include <QFrame>
 

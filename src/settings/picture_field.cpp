@@ -1,10 +1,10 @@
 #include "settings/picture_field.h"
 
-#include "services/path_box.h"
-#include "services/picture_button.h"
-#include "services/qt_text.h"
-#include "services/theme.h"
-#include "services/value_label.h"
+#include "services/controls/path_box.h"
+#include "services/controls/picture_button.h"
+#include "services/controls/value_label.h"
+#include "services/look/theme.h"
+#include "services/values/qt_text.h"
 #include "settings/field_pickers.h"
 
 #include <QHBoxLayout>

@@ -1,12 +1,12 @@
 #include "settings/picture_preview_window.h"
 
-#include "services/picture_button.h"
-#include "services/picture_format_check.h"
-#include "services/picture_loader.h"
-#include "services/program_session.h"
-#include "services/shell_report.h"
-#include "services/theme.h"
-#include "services/twips.h"
+#include "services/controls/picture_button.h"
+#include "services/dialogs/picture_format_check.h"
+#include "services/dialogs/shell_report.h"
+#include "services/look/theme.h"
+#include "services/pictures/picture_loader.h"
+#include "services/values/twips.h"
+#include "services/windows/program_session.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -1,13 +1,13 @@
 #include "settings/program_settings_window.h"
 
 #include "core/files/build_folder.h"
-#include "services/autorun_check_window.h"
-#include "services/common_dialog.h"
-#include "services/path_box.h"
-#include "services/picture_button.h"
-#include "services/program_session.h"
-#include "services/qt_text.h"
-#include "services/theme.h"
+#include "services/controls/path_box.h"
+#include "services/controls/picture_button.h"
+#include "services/dialogs/common_dialog.h"
+#include "services/look/theme.h"
+#include "services/shared/autorun_check_window.h"
+#include "services/values/qt_text.h"
+#include "services/windows/program_session.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #include "settings/program_splash_window.h"
 
-#include "services/artwork.h"
+#include "services/look/artwork.h"
 
 #include <QCloseEvent>
 #include <QLabel>

@@ -6,10 +6,10 @@
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
 #include "core/session/recovery_folder.h"
-#include "services/message_box.h"
-#include "services/program_session.h"
-#include "services/project_save_dialog.h"
-#include "services/qt_text.h"
+#include "services/dialogs/message_box.h"
+#include "services/dialogs/project_save_dialog.h"
+#include "services/values/qt_text.h"
+#include "services/windows/program_session.h"
 #include "settings/project_listener.h"
 
 #include <utility>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/files/profile_file.h"
-#include "services/common_dialog.h"
-#include "services/window_registry.h"
+#include "services/dialogs/common_dialog.h"
+#include "services/windows/window_registry.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "settings/project_listener.h"
 
-#include "services/message_box.h"
-#include "services/qt_text.h"
-#include "services/session_fonts.h"
+#include "services/dialogs/message_box.h"
+#include "services/system/session_fonts.h"
+#include "services/values/qt_text.h"
 #include "settings/template_capabilities.h"
 
 #include <QCoreApplication>

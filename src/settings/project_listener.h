@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/document/project_reader.h"
-#include "services/window_registry.h"
+#include "services/windows/window_registry.h"
 
 class QWidget;
 

@@ -1,6 +1,6 @@
 #include "settings/recovery_keeper.h"
 
-#include "services/program_session.h"
+#include "services/windows/program_session.h"
 
 #include <chrono>
 

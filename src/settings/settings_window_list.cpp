@@ -1,6 +1,6 @@
 #include "settings/settings_window_list.h"
 
-#include "services/service_window_list.h"
+#include "services/shared/service_window_list.h"
 #include "settings/build_window.h"
 #include "settings/command_descriptions_window.h"
 #include "settings/main_menu.h"

@@ -1,10 +1,10 @@
 #include "settings/step_checks.h"
 
 #include "core/text/text_case.h"
-#include "services/message_box.h"
-#include "services/program_session.h"
-#include "services/shell_report.h"
-#include "services/skinned_window.h"
+#include "services/dialogs/message_box.h"
+#include "services/dialogs/shell_report.h"
+#include "services/windows/program_session.h"
+#include "services/windows/skinned_window.h"
 #include "templates/template_descriptor.h"
 
 namespace tavmoor {

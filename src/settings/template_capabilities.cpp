@@ -1,8 +1,8 @@
 #include "settings/template_capabilities.h"
 
-#include "services/program_session.h"
-#include "services/skinned_window.h"
-#include "services/twips.h"
+#include "services/values/twips.h"
+#include "services/windows/program_session.h"
+#include "services/windows/skinned_window.h"
 #include "templates/template_descriptor.h"
 
 #include <QGuiApplication>

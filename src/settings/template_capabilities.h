@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/window_registry.h"
+#include "services/windows/window_registry.h"
 
 namespace tavmoor {
 

@@ -1,8 +1,8 @@
 #include "settings/template_picture.h"
 
-#include "services/artwork.h"
-#include "services/theme.h"
-#include "services/twips.h"
+#include "services/look/artwork.h"
+#include "services/look/theme.h"
+#include "services/values/twips.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/skinned_window.h"
+#include "services/windows/skinned_window.h"
 
 #include <optional>
 #include <string>

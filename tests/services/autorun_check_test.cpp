@@ -1,6 +1,6 @@
-#include "services/autorun_check.h"
+#include "services/system/autorun_check.h"
 
-#include "services/registry_wrapper.h"
+#include "services/system/registry_wrapper.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

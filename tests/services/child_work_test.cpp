@@ -1,4 +1,4 @@
-#include "services/child_work_posix.h"
+#include "services/pictures/child_work_posix.h"
 
 #include <gtest/gtest.h>
 

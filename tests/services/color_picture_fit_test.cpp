@@ -1,6 +1,6 @@
-#include "services/color_picture_fit.h"
+#include "services/colors/color_picture_fit.h"
 
-#include "services/color_picture_view.h"
+#include "services/colors/color_picture_view.h"
 
 #include <gtest/gtest.h>
 

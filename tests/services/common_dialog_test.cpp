@@ -1,8 +1,8 @@
-#include "services/common_dialog.h"
+#include "services/dialogs/common_dialog.h"
 
 #include "core/files/program_folder.h"
 #include "core/files/runtime_error.h"
-#include "services/project_save_dialog.h"
+#include "services/dialogs/project_save_dialog.h"
 #include "support/scripted_answers.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"

@@ -1,9 +1,9 @@
 #include "core/document/project_reset.h"
 #include "core/text/code_page.h"
-#include "services/color_box.h"
-#include "services/field_binding.h"
-#include "services/path_box.h"
-#include "services/value_label.h"
+#include "services/controls/color_box.h"
+#include "services/controls/path_box.h"
+#include "services/controls/value_label.h"
+#include "services/fields/field_binding.h"
 #include "support/temporary_folder.h"
 #include "support/user_input.h"
 

@@ -1,9 +1,9 @@
-#include "services/mp3_play.h"
+#include "services/sound/mp3_play.h"
 
-#include "services/click_sound.h"
-#include "services/media_device.h"
-#include "services/service_slot.h"
-#include "services/sound_output.h"
+#include "services/sound/click_sound.h"
+#include "services/sound/media_device.h"
+#include "services/sound/sound_output.h"
+#include "services/system/service_slot.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

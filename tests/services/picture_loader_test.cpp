@@ -1,8 +1,8 @@
-#include "services/picture_loader.h"
+#include "services/pictures/picture_loader.h"
 
-#include "services/file_name_check.h"
-#include "services/picture_format_check.h"
-#include "services/svg_check.h"
+#include "services/dialogs/file_name_check.h"
+#include "services/dialogs/picture_format_check.h"
+#include "services/pictures/svg_check.h"
 #include "support/metafile_bytes.h"
 #include "support/scripted_answers.h"
 #include "support/temporary_folder.h"

@@ -1,9 +1,9 @@
-#include "services/color_value.h"
-#include "services/file_filter.h"
-#include "services/font_dialog.h"
-#include "services/font_spec.h"
-#include "services/native_path_text.h"
-#include "services/qt_dialogs.h"
+#include "services/dialogs/font_dialog.h"
+#include "services/dialogs/qt_dialogs.h"
+#include "services/values/color_value.h"
+#include "services/values/file_filter.h"
+#include "services/values/font_spec.h"
+#include "services/values/native_path_text.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "core/text/code_page.h"
-#include "services/qt_text.h"
+#include "services/values/qt_text.h"
 
 #include <gtest/gtest.h>
 

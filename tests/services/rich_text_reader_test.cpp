@@ -1,5 +1,5 @@
-#include "services/rich_text_parser.h"
-#include "services/rich_text_reader.h"
+#include "services/richtext/rich_text_parser.h"
+#include "services/richtext/rich_text_reader.h"
 #include "support/temporary_folder.h"
 
 #include <QElapsedTimer>

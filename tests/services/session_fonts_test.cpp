@@ -1,7 +1,7 @@
-#include "services/session_fonts.h"
+#include "services/system/session_fonts.h"
 
 #include "core/document/project_document.h"
-#include "services/service_slot.h"
+#include "services/system/service_slot.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "services/shell.h"
+#include "services/system/shell.h"
 
-#include "services/maker.h"
-#include "services/qt_text.h"
+#include "core/text/maker.h"
+#include "services/values/qt_text.h"
 #include "support/recording_shell.h"
 #include "support/temporary_folder.h"
 

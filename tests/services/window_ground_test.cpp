@@ -1,9 +1,9 @@
 #include "core/text/code_page.h"
-#include "services/message_box.h"
-#include "services/program_session.h"
-#include "services/skinned_window.h"
-#include "services/wait_loop.h"
-#include "services/window_placing.h"
+#include "services/dialogs/message_box.h"
+#include "services/system/wait_loop.h"
+#include "services/windows/program_session.h"
+#include "services/windows/skinned_window.h"
+#include "services/windows/window_placing.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "support/recording_shell.h"
 
 #include "core/files/runtime_error.h"
-#include "services/status_label.h"
+#include "services/controls/status_label.h"
 #include "settings/build_window.h"
 
 #include <QCheckBox>

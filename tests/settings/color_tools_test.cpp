@@ -1,9 +1,9 @@
 #include "support/program_windows.h"
 
-#include "services/color_pick.h"
-#include "services/color_picture_view.h"
-#include "services/native_path_text.h"
-#include "services/wait_loop.h"
+#include "services/colors/color_pick.h"
+#include "services/colors/color_picture_view.h"
+#include "services/system/wait_loop.h"
+#include "services/values/native_path_text.h"
 
 #include <QApplication>
 #include <QImage>

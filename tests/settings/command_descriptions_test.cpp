@@ -1,8 +1,8 @@
 #include "support/program_windows.h"
 
-#include "services/color_value.h"
-#include "services/theme.h"
-#include "services/value_label.h"
+#include "services/controls/value_label.h"
+#include "services/look/theme.h"
+#include "services/values/color_value.h"
 #include "settings/main_window.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "settings/main_settings_panel.h"
 
 #include "core/document/project_reset.h"
-#include "services/color_box.h"
-#include "services/value_label.h"
+#include "services/controls/color_box.h"
+#include "services/controls/value_label.h"
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 

@@ -1,8 +1,8 @@
 #include "support/program_windows.h"
 
-#include "services/maker.h"
-#include "services/registry_store.h"
-#include "services/service_slot.h"
+#include "core/text/maker.h"
+#include "services/system/registry_store.h"
+#include "services/system/service_slot.h"
 #include "support/recording_shell.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "support/program_windows.h"
 
-#include "services/media_device.h"
-#include "services/value_label.h"
+#include "services/controls/value_label.h"
+#include "services/sound/media_device.h"
 #include "settings/main_window.h"
 #include "support/user_input.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/files/document_path.h"
-#include "services/program_session.h"
-#include "services/skinned_window.h"
-#include "services/window_registry.h"
+#include "services/windows/program_session.h"
+#include "services/windows/skinned_window.h"
+#include "services/windows/window_registry.h"
 #include "support/scripted_answers.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"

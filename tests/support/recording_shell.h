@@ -1,7 +1,7 @@
 #pragma once
 
-#include "services/service_slot.h"
-#include "services/shell.h"
+#include "services/system/service_slot.h"
+#include "services/system/shell.h"
 
 #include <string>
 #include <vector>

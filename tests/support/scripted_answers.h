@@ -1,7 +1,7 @@
 #pragma once
 
-#include "services/message_box.h"
-#include "services/service_slot.h"
+#include "services/dialogs/message_box.h"
+#include "services/system/service_slot.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/files/document_path.h"
-#include "services/dialog_responder.h"
-#include "services/native_path_text.h"
-#include "services/service_slot.h"
+#include "services/dialogs/dialog_responder.h"
+#include "services/system/service_slot.h"
+#include "services/values/native_path_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,0 @@
-#include "services/shell_dialogs.h"
-
-namespace tavmoor {
-
-bool ShowPlatformShellDialog(const ShellRequest& /*request*/) {
-    return false;
-}
-
-} // namespace tavmoor

@@ -1,0 +1,48 @@
+#include "services/dialogs/project_save_dialog.h"
+
+#include "core/files/document_path.h"
+#include "services/dialogs/message_box.h"
+#include "services/values/qt_text.h"
+
+#include <QCoreApplication>
+
+namespace tavmoor {
+
+std::string CommonProjectSaveDialog::Show(std::string_view initialFolder, std::string_view title,
+                                          std::string_view filter) {
+    do {
+        dialog_.FileName.clear();
+        dialog_.FileTitle.clear();
+        dialog_.InitDir = initialFolder;
+        dialog_.DialogTitle = title;
+        dialog_.Filter = filter;
+        dialog_.FilterIndex = 1;
+        dialog_.DefaultExt.clear();
+        dialog_.CancelError = false;
+        dialog_.ShowSave();
+    } while (!MayBeReplaced());
+    return dialog_.FileName;
+}
+
+/// The save command adds the extension only to names that do not end in "tavp".
+bool CommonProjectSaveDialog::MayBeReplaced() const {
+    if (dialog_.FileName.empty() || dialog_.FileName.ends_with("tavp")) {
+        return true;
+    }
+    const std::string written = dialog_.FileName + ".tavp";
+    const auto native = FindNativePath(written);
+    std::error_code ignored; // the save itself reports what is wrong with a path
+    if (!native || !std::filesystem::exists(*native, ignored)) {
+        return true;
+    }
+    return AskYesNo(dialog_.hOwner,
+                    QStringLiteral("\"%1\" already exists.\nDo you want to replace it?")
+                        .arg(ToQString(written)),
+                    ToQString(dialog_.DialogTitle));
+}
+
+void CommonProjectSaveDialog::LetEventsRun() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace tavmoor

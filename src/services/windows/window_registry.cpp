@@ -1,0 +1,83 @@
+#include "services/windows/window_registry.h"
+
+#include "services/windows/skinned_window.h"
+
+#include <QAbstractButton>
+
+namespace tavmoor {
+
+void WindowRegistry::Register(WindowName name, Factory factory) {
+    factories_[name] = std::move(factory);
+}
+
+bool WindowRegistry::Stands(WindowName name) const {
+    return factories_.contains(name);
+}
+
+SkinnedWindow& WindowRegistry::Load(WindowName name) {
+    if (SkinnedWindow* window = Find(name)) {
+        return *window;
+    }
+    SkinnedWindow* window = factories_.at(name)();
+    loaded_[name] = window;
+    window->Load();
+    return *window;
+}
+
+SkinnedWindow* WindowRegistry::Find(WindowName name) const {
+    const auto found = loaded_.find(name);
+    if (found == loaded_.end() || !found->second || found->second->IsUnloaded()) {
+        return nullptr;
+    }
+    return found->second;
+}
+
+SkinnedWindow& WindowRegistry::Open(WindowName name) {
+    SkinnedWindow& window = Load(name);
+    window.Present();
+    return window;
+}
+
+SkinnedWindow& WindowRegistry::OpenFromMain(WindowName name) {
+    SkinnedWindow& window = Load(name);
+    window.SetBringsMainBack(true);
+    if (main_ != nullptr) {
+        main_->SetVisible(false);
+    }
+    window.Present();
+    return window;
+}
+
+void WindowRegistry::Unload(WindowName name) {
+    if (SkinnedWindow* window = Find(name)) {
+        window->Unload();
+    }
+}
+
+void WindowRegistry::UnloadAll() {
+    for (const auto& [name, factory] : factories_) {
+        if (SkinnedWindow* window = name == WindowName::Form1 ? nullptr : Find(name)) {
+            window->SetBringsMainBack(false);
+            window->Unload();
+        }
+    }
+}
+
+std::optional<QRect> WindowRegistry::DesignPanelGeometry() const {
+    const SkinnedWindow* panel = Find(WindowName::Form17);
+    return panel != nullptr && panel->isVisible() ? std::optional(panel->frameGeometry())
+                                                  : std::nullopt;
+}
+
+bool EnableWhenStanding(QAbstractButton& button, const WindowRegistry& windows, WindowName name) {
+    const bool stands = windows.Stands(name);
+    button.setEnabled(stands);
+    if (!stands) {
+        const QString why = QStringLiteral("This window is not part of this version yet.");
+        const QString tip = button.toolTip();
+        button.setToolTip(tip.isEmpty() ? why : tip + QLatin1Char('\n') + why);
+    }
+    return stands;
+}
+
+} // namespace tavmoor
