@@ -1,7 +1,7 @@
 #include "work_folder.h"
 
-#include "build/package_writer.h"
 #include "core/files/document_path.h"
+#include "package/package_writer.h"
 
 #include <benchmark/benchmark.h>
 
@@ -24,7 +24,7 @@ void PackageOfOneGigabyte(benchmark::State& state) {
     for (const auto& file : BigFiles()) {
         list.push_back(DocumentPath(file));
     }
-    class Silent final : public BuildEvents {
+    class Silent final : public PackageEvents {
     } events;
     for (auto _ : state) {
         WritePackage(list, DocumentPath(folder), events);

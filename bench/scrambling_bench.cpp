@@ -1,4 +1,4 @@
-#include "build/name_scrambling.h"
+#include "package/name_scrambling.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,9 +1,9 @@
 // Any bytes as a package: what is accepted is laid out back to back, reads as it lies there and
 // never lands outside the folder it is extracted to.
 
-#include "build/package_reader.h"
-#include "build/package_format.h"
+#include "package/package_reader.h"
 #include "check.h"
+#include "package/package_format.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,6 +1,6 @@
 // Any bytes as a program file: reads stay bounded and the company name is UTF-8.
 
-#include "build/version_block.h"
+#include "disc/version_block.h"
 #include "check.h"
 #include "core/text/code_page.h"
 

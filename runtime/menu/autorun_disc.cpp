@@ -1,10 +1,10 @@
 #include "menu/autorun_disc.h"
 
-#include "build/package_format.h"
 #include "core/document/project_reader.h"
 #include "core/document/project_reset.h"
 #include "core/files/profile_file.h"
 #include "core/text/text_case.h"
+#include "package/package_format.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "build/package_reader.h"
 #include "core/document/project_document.h"
+#include "package/package_reader.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "menu/unpacked_file.h"
 
-#include "build/package_reader.h"
+#include "package/package_reader.h"
 
 #include <fstream>
 #include <random>

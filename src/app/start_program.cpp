@@ -6,7 +6,7 @@
 #include "services/system/autorun_check.h"
 #include "services/windows/program_session.h"
 #include "services/windows/skinned_window.h"
-#include "settings/settings_window_list.h"
+#include "settings/main/settings_window_list.h"
 
 namespace tavmoor {
 

@@ -1,10 +1,10 @@
 #include "commands.h"
 
-#include "build/build_driver.h"
-#include "build/output_check.h"
 #include "console.h"
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
+#include "disc/build_driver.h"
+#include "disc/output_check.h"
 #include "open_project.h"
 
 #include <optional>

@@ -1,9 +1,9 @@
 #include "commands.h"
 
-#include "build/package_reader.h"
 #include "console.h"
 #include "core/files/runtime_error.h"
 #include "core/session/recovery_folder.h"
+#include "package/package_reader.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,9 +1,9 @@
 #include "commands.h"
 
-#include "build/package_reader.h"
 #include "console.h"
 #include "core/files/file_store.h"
 #include "open_project.h"
+#include "package/package_reader.h"
 #include "templates/template_catalogue.h"
 #include "templates/template_descriptor.h"
 

@@ -1,7 +1,5 @@
 #include "commands.h"
 
-#include "build/build_driver.h"
-#include "build/project_check.h"
 #include "console.h"
 #include "core/document/field_text.h"
 #include "core/document/field_writer.h"
@@ -9,6 +7,8 @@
 #include "core/document/project_reset.h"
 #include "core/document/project_writer.h"
 #include "core/files/file_store.h"
+#include "disc/build_driver.h"
+#include "disc/project_check.h"
 #include "open_project.h"
 
 #include <nlohmann/json.hpp>

@@ -4,9 +4,9 @@
 #include "services/look/theme.h"
 #include "services/windows/program_session.h"
 #include "services/windows/skinned_window.h"
-#include "settings/main_menu.h"
-#include "settings/main_window.h"
-#include "settings/settings_window_list.h"
+#include "settings/main/main_menu.h"
+#include "settings/main/main_window.h"
+#include "settings/main/settings_window_list.h"
 
 #include <QApplication>
 #include <QDir>

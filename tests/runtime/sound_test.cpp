@@ -1,7 +1,7 @@
 #include "menu/sound_plan.h"
 
-#include "build/package_reader.h"
 #include "menu/unpacked_file.h"
+#include "package/package_reader.h"
 #include "runtime/menu_fixture.h"
 #include "support/package_bytes.h"
 #include "support/temporary_folder.h"

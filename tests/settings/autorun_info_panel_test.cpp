@@ -1,7 +1,7 @@
 #include "services/controls/text_boxes.h"
 #include "services/controls/value_label.h"
 #include "services/values/qt_text.h"
-#include "settings/main_window.h"
+#include "settings/main/main_window.h"
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 

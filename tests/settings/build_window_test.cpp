@@ -4,7 +4,7 @@
 
 #include "core/files/runtime_error.h"
 #include "services/controls/status_label.h"
-#include "settings/build_window.h"
+#include "settings/final_step/build_window.h"
 
 #include <QCheckBox>
 #include <QLabel>

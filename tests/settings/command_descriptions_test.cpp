@@ -3,7 +3,7 @@
 #include "services/controls/value_label.h"
 #include "services/look/theme.h"
 #include "services/values/color_value.h"
-#include "settings/main_window.h"
+#include "settings/main/main_window.h"
 
 #include <QApplication>
 #include <QLabel>

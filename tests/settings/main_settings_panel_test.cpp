@@ -1,4 +1,4 @@
-#include "settings/main_settings_panel.h"
+#include "settings/steps/main_settings_panel.h"
 
 #include "core/document/project_reset.h"
 #include "services/controls/color_box.h"

@@ -1,6 +1,6 @@
 #include "support/program_windows.h"
 
-#include "settings/main_window.h"
+#include "settings/main/main_window.h"
 
 namespace tavmoor {
 

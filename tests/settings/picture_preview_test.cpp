@@ -1,4 +1,4 @@
-#include "settings/picture_preview_window.h"
+#include "services/shared/picture_preview_window.h"
 
 #include "support/program_windows.h"
 #include "support/recording_shell.h"

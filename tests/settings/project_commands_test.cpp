@@ -3,7 +3,7 @@
 #include "core/document/project_writer.h"
 #include "core/files/profile_file.h"
 #include "services/values/native_path_text.h"
-#include "settings/main_window.h"
+#include "settings/main/main_window.h"
 
 #include <QTimer>
 

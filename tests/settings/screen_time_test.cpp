@@ -1,4 +1,4 @@
-#include "settings/screen_time.h"
+#include "settings/screens/screen_time.h"
 
 #include <gtest/gtest.h>
 

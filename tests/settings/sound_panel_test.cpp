@@ -2,7 +2,7 @@
 
 #include "services/controls/value_label.h"
 #include "services/sound/media_device.h"
-#include "settings/main_window.h"
+#include "settings/main/main_window.h"
 #include "support/user_input.h"
 
 #include <QAbstractSlider>

@@ -1,6 +1,6 @@
-#include "settings/template_window.h"
+#include "settings/template/template_window.h"
 
-#include "settings/template_capabilities.h"
+#include "settings/template/template_capabilities.h"
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 

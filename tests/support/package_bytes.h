@@ -1,6 +1,6 @@
 #pragma once
 
-#include "build/name_scrambling.h"
+#include "package/name_scrambling.h"
 
 #include <string>
 #include <string_view>

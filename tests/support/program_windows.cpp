@@ -1,6 +1,6 @@
 #include "support/program_windows.h"
 
-#include "settings/settings_window_list.h"
+#include "settings/main/settings_window_list.h"
 #include "support/user_input.h"
 
 #include <QApplication>

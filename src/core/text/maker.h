@@ -10,6 +10,10 @@ namespace tavmoor {
 inline constexpr std::string_view ProgramName = "Tavmoor";
 inline constexpr std::string_view VersionText = "Tavmoor, version 7.9.2, Orlenta";
 
+/// The company name in the version block of this maker's autorun programs; the programs in the
+/// templates carry it, and the build deletes older programs that do.
+inline constexpr std::string_view MakerMarker = "Orlenta";
+
 inline constexpr std::string_view MakerWebPage = "https://www.tavmoor.example";
 inline constexpr std::string_view MakerMailAddress = "contact@tavmoor.example";
 inline constexpr std::string_view MakerMailSubject = ProgramName;

@@ -1,0 +1,17 @@
+#include "disc/runtime_configuration.h"
+
+#include "core/document/field_writer.h"
+#include "core/files/document_path.h"
+#include "core/files/file_store.h"
+#include "package/package_format.h"
+
+namespace tavmoor {
+
+std::string WriteRuntimeConfiguration(const ProjectDocument& document,
+                                      const std::string& buildFolder) {
+    std::string path = WithBackslash(buildFolder) + std::string(package_format::ConfigurationName);
+    WriteFreshFile(path, FieldFileText(document, FieldFile::Configuration));
+    return path;
+}
+
+} // namespace tavmoor

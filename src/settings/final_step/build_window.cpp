@@ -1,0 +1,235 @@
+#include "settings/final_step/build_window.h"
+
+#include "core/files/build_folder.h"
+#include "core/files/document_path.h"
+#include "core/files/runtime_error.h"
+#include "disc/output_check.h"
+#include "services/controls/caption_label.h"
+#include "services/controls/picture_button.h"
+#include "services/controls/status_label.h"
+#include "services/controls/text_boxes.h"
+#include "services/controls/value_label.h"
+#include "services/dialogs/message_box.h"
+#include "services/look/theme.h"
+#include "services/values/qt_text.h"
+#include "services/windows/program_session.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tavmoor {
+
+namespace {
+
+constexpr WindowLook Form8Look{
+    .name = WindowName::Form8,
+    .objectName = "Form8",
+    .title = u"The final step. You are about to build and save your autorun program..."};
+
+constexpr int StatusLines = 4;
+constexpr int NoteLines = 2;
+
+/// Logical pixels: the title is seen whole, beside the chrome.
+int WindowWidth() {
+    constexpr int Least = 700;
+    constexpr int BesideTitle = 150;
+    const QFontMetrics metrics(theme::HeadingFont());
+    return std::max(Least,
+                    metrics.horizontalAdvance(QString::fromUtf16(Form8Look.title)) + BesideTitle);
+}
+
+} // namespace
+
+/// The time of one build, in which neither its input changes nor the window closes; it also ends
+/// when the build does so by an error.
+class Form8::BuildTime {
+public:
+    explicit BuildTime(Form8& form) : form_(form) { Set(true); }
+    BuildTime(const BuildTime&) = delete;
+    BuildTime& operator=(const BuildTime&) = delete;
+    ~BuildTime() {
+        Set(false);
+        form_.build_->setEnabled(true);
+    }
+
+private:
+    void Set(bool building) {
+        form_.building_ = building;
+        form_.note_->SetText({});
+        form_.name_->setFocus(); // else it goes from the disabled command to the next button
+        form_.name_->setReadOnly(building);
+        form_.start_->setEnabled(!building);
+    }
+    Form8& form_;
+};
+
+Form8::Form8(ProgramContext context) : SkinnedWindow(context, Form8Look) {
+    auto* layout = new QVBoxLayout(Body());
+    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
+    layout->setSpacing(theme::Gap);
+    layout->addLayout(MakeFields());
+    start_ = new QCheckBox(QStringLiteral("&Start autorun after 'Build and save'"), Body());
+    start_->setObjectName(QStringLiteral("Check1"));
+    layout->addWidget(start_);
+    layout->addWidget(MakeProgress());
+    layout->addLayout(MakeButtons());
+    setFixedWidth(WindowWidth());
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
+}
+
+QLayout* Form8::MakeFields() {
+    folder_ = new ValueLabel("Label2", Body());
+    name_ = new TextBox("Text1", Body());
+    name_->setToolTip(QStringLiteral("Name of the autorun program. Letters, digits, _ and -"));
+    auto* fields = new QGridLayout;
+    fields->setSpacing(theme::Gap);
+    fields->addWidget(MakeCaption(u"CD-ROM files folder:", folder_, Body()), 0, 0);
+    fields->addWidget(folder_, 0, 1, 1, 2);
+    fields->addWidget(MakeCaption(u"&Name of the autorun:", name_, Body()), 1, 0);
+    fields->addWidget(name_, 1, 1);
+    fields->addWidget(new QLabel(QStringLiteral(".exe"), Body()), 1, 2);
+    fields->setColumnStretch(1, 1);
+    return fields;
+}
+
+QWidget* Form8::MakeProgress() {
+    auto* group = new QGroupBox(QStringLiteral("Progress"), Body());
+    progress_ = new QProgressBar(group);
+    progress_->setObjectName(QStringLiteral("Progress"));
+    progress_->setAccessibleName(QStringLiteral("How much of the package is written"));
+    status_ = new StatusLabel("Label1", StatusLines, group);
+    note_ = new StatusLabel("Note", NoteLines, group);
+    QPalette red = note_->palette();
+    red.setColor(QPalette::WindowText, theme::Refused);
+    note_->setPalette(red);
+    auto* layout = new QVBoxLayout(group);
+    layout->setSpacing(theme::Gap);
+    layout->addWidget(progress_);
+    layout->addWidget(status_);
+    layout->addWidget(note_);
+    return group;
+}
+
+QLayout* Form8::MakeButtons() {
+    build_ =
+        new PictureButton({"Command1", "nav_build", u"&Build and save",
+                           u"Builds the autorun in the CD-ROM files folder", ButtonLook::Primary},
+                          Body());
+    auto* close =
+        new PictureButton({"Command2", "", u"&Close", u"Back to the main window"}, Body());
+    connect(build_, &QAbstractButton::clicked, this, &Form8::Build);
+    connect(close, &QAbstractButton::clicked, this, &QWidget::close);
+    SetKeyButtons(build_, close);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(theme::Gap);
+    buttons->addStretch(1);
+    buttons->addWidget(build_);
+    buttons->addWidget(close);
+    return buttons;
+}
+
+void Form8::OnLoad() {
+    const std::string& folder = Document().CdFolder();
+    theme::MarkRefused(*folder_, folder.empty());
+    folder_->SetFullText(
+        folder.empty()
+            ? QStringLiteral("CD-ROM FILES FOLDER NOT SELECTED! GO BACK TO MAIN AUTORUN SETTINGS.")
+            : ToQString(folder));
+    build_->setEnabled(!folder.empty());
+    WindowBuildEvents(Controls()).ResetProgress();
+    start_->setChecked(Session().settings.testAfterBuild);
+    name_->setText(ToQString(InitialAutorunName(Document())));
+    name_->setFocus();
+    name_->selectAll();
+}
+
+bool Form8::MayUnload() {
+    if (building_) {
+        note_->SetText(QStringLiteral("The build is running. The window can be closed after it."));
+    }
+    return !building_;
+}
+
+BuildControls Form8::Controls() const {
+    BuildControls controls;
+    controls.window = build_->window();
+    controls.folder = folder_;
+    controls.name = name_;
+    controls.status = status_;
+    controls.progress = progress_;
+    controls.build = build_;
+    return controls;
+}
+
+void Form8::Build() {
+    if (building_) {
+        return;
+    }
+    EnsureBuildFolder();
+    BuildRequest request;
+    request.name = FromQString(name_->text());
+    request.buildFolder = CompressFolder(Session().settings);
+    request.startAfterBuild = start_->isChecked();
+    if (!BuildFolderIsUsable(request.buildFolder)) {
+        return;
+    }
+    WindowBuildEvents events(Controls());
+    events.ResetProgress();
+    BuildOutcome outcome = BuildOutcome::Built;
+    {
+        const BuildTime time(*this);
+        outcome = BuildAutorun(Document(), request, events);
+    }
+    if (outcome == BuildOutcome::Built) {
+        ShowFaults(events.Package());
+    } else if (outcome == BuildOutcome::FolderMissing) {
+        GoBackToFolder();
+    }
+}
+
+/// Tells when the working files cannot be made where the settings say. In the disc folder itself
+/// the end of the build would clear away what the build has placed.
+bool Form8::BuildFolderIsUsable(const std::string& folder) {
+    QString objection;
+    if (SamePath(WithBackslash(folder), WithBackslash(Document().CdFolder()))) {
+        objection = QStringLiteral("It is the CD-ROM files folder itself.");
+    } else {
+        try {
+            RequireOwnFolder(folder);
+        } catch (const RuntimeError& error) {
+            objection = ToQString(error.what());
+        }
+    }
+    if (objection.isEmpty()) {
+        return true;
+    }
+    ShowMessageBox(this, {QStringLiteral("The temporary compress folder cannot be used. Choose "
+                                         "another one in the program settings.\n") +
+                              objection,
+                          QStringLiteral("Error..."), BoxButtons::Ok, BoxIcon::Critical});
+    return false;
+}
+
+/// The build passes over what cannot be placed; a disc must not be burnt without it.
+void Form8::ShowFaults(const BuiltPackage& package) {
+    const auto faults = FaultsOfPlacedOutput(Document(), package);
+    if (!faults.empty()) {
+        note_->SetText(ToQString(faults.front()));
+    }
+}
+
+void Form8::GoBackToFolder() {
+    Unload();
+    if (MainWindowCommands* main = Windows().Main()) {
+        main->HidePanels();
+        main->ShowMainSettings();
+        main->FocusCdFolder();
+    }
+}
+
+} // namespace tavmoor
