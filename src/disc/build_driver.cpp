@@ -85,7 +85,7 @@ private:
             return BuildOutcome::NameRefused;
         }
         if (request_.name.empty()) {
-            events_.ColourName(RefusedNameColour);
+            events_.ColorName(RefusedNameColor);
             events_.ShowMessage("Filename cannot be blank!", "", BuildMessageKind::Plain);
             return BuildOutcome::NameEmpty;
         }
@@ -93,7 +93,7 @@ private:
     }
 
     void RefuseName() {
-        events_.ColourName(RefusedNameColour);
+        events_.ColorName(RefusedNameColor);
         events_.ShowMessage(
             "It is highly recomended that filename contains of following characters\r\n"
             "1234567890qwertyuiopasdfghjklzxcvbnmQWERTYUIOPASDFGHJKLZXCVBNM\r\n"
@@ -108,7 +108,7 @@ private:
     }
 
     void TakeName() {
-        events_.ColourName(AcceptedNameColour);
+        events_.ColorName(AcceptedNameColor);
         document_.OsnovniPodaci.exename = request_.name + std::string(ProgramExtension);
         events_.EnableBuild(false);
         FillScreenTimes(document_);

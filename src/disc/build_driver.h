@@ -46,7 +46,7 @@ std::vector<std::string> PackageFileList(const ProjectDocument& document,
                                          const std::string& buildFolder, bool withFonts);
 
 /// Back colours of the name field.
-inline constexpr ColorValue RefusedNameColour = 0x00FFFF;
-inline constexpr ColorValue AcceptedNameColour = 0xFFFFFF;
+inline constexpr ColorValue RefusedNameColor = 0x00FFFF;
+inline constexpr ColorValue AcceptedNameColor = 0xFFFFFF;
 
 } // namespace tavmoor

@@ -23,7 +23,7 @@ public:
                              BuildMessageKind /*kind*/) {}
 
     /// The name field takes a back colour, or another text.
-    virtual void ColourName(ColorValue /*colour*/) {}
+    virtual void ColorName(ColorValue /*color*/) {}
     virtual void ReplaceName(std::string_view /*name*/) {}
     /// The target folder is marked as missing.
     virtual void MarkFolder() {}

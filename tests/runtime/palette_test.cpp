@@ -22,7 +22,7 @@ const std::string NavyWindow = "[Osnovna podesavanja]\nBoja prozora=4202512\n"; 
 
 } // namespace
 
-TEST(Palette, TurnsProjectColoursAround) {
+TEST(Palette, TurnsProjectColorsAround) {
     EXPECT_EQ(SolidColor(0x00332211, System), 0xFF112233U);
     EXPECT_EQ(SolidColor(static_cast<ColorValue>(0x80000005), System), 0xFFFCFDFEU);
     EXPECT_EQ(Blend(0x80FFFFFF, 0xFF000000), 0xFF808080U);
@@ -30,7 +30,7 @@ TEST(Palette, TurnsProjectColoursAround) {
     EXPECT_NEAR(Contrast(0xFFFFFFFF, 0xFF000000), 21.0, 0.01);
 }
 
-TEST(Palette, KeepsTheLooksTasteUntilColoursAreChosen) {
+TEST(Palette, KeepsTheLooksTasteUntilColorsAreChosen) {
     const Palette own = NexusLook().colors;
     const Palette untouched = PaletteOf("", NexusLook());
     EXPECT_EQ(untouched.back, own.back);
@@ -78,7 +78,7 @@ TEST(Palette, MakesFacesSolidOverAPicture) {
               MarqueeLook().colors.buttons[0].face);
 }
 
-TEST(Palette, TakesTheCanvasColoursAsTheyAre) {
+TEST(Palette, TakesTheCanvasColorsAsTheyAre) {
     const Palette palette = PaletteOf("[Napredni sabloni]\nTekstBackgroundStyle(3)=1\n"
                                       "TekstBackgroundColor(3)=16777215\n",
                                       EditorLook());

@@ -153,7 +153,7 @@ TEST(Screen, MakesItsTextFit) {
     EXPECT_EQ(ArrangeScreen(brief.request, brief.Size()).font.points, 40);
 }
 
-TEST(Screen, KeepsChosenColoursAndUnchosenTextReadable) {
+TEST(Screen, KeepsChosenColorsAndUnchosenTextReadable) {
     const auto system = [](int) { return 0x00101010U; };
     const auto colors = [&](const std::string& lines) {
         return ChooseScreenColors(Splash(lines), system);

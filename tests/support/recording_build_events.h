@@ -16,7 +16,7 @@ public:
         const char* mark = kind == BuildMessageKind::Critical ? "critical [" : "message [";
         Add(mark + std::string(title) + "] " + std::string(text));
     }
-    void ColourName(ColorValue colour) override { Add("colour " + std::to_string(colour)); }
+    void ColorName(ColorValue color) override { Add("colour " + std::to_string(color)); }
     void ReplaceName(std::string_view name) override { Add("name " + std::string(name)); }
     void MarkFolder() override { Add("mark folder"); }
     void EnableBuild(bool enabled) override { Add(enabled ? "enable" : "disable"); }

@@ -18,18 +18,18 @@ namespace tavmoor {
 namespace {
 
 /// The two colours of the line drawings, replaced where another one is wanted.
-constexpr std::array LineColours{"#22324A", "#2F6DB5"};
+constexpr std::array LineColors{"#22324A", "#2F6DB5"};
 
-QByteArray DrawingBytes(const QString& name, const QColor& colour) {
+QByteArray DrawingBytes(const QString& name, const QColor& color) {
     [[maybe_unused]] static const bool registered = (RegisterDrawings(), true);
     QFile file(QStringLiteral(":/artwork/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("no drawing \"%s\" in the program", qPrintable(name));
     }
     QByteArray bytes = file.readAll();
-    if (colour.isValid()) {
-        for (const char* lineColour : LineColours) {
-            bytes.replace(lineColour, colour.name().toLatin1());
+    if (color.isValid()) {
+        for (const char* lineColor : LineColors) {
+            bytes.replace(lineColor, color.name().toLatin1());
         }
     }
     return bytes;
@@ -37,10 +37,10 @@ QByteArray DrawingBytes(const QString& name, const QColor& colour) {
 
 class DrawingEngine final : public QIconEngine {
 public:
-    DrawingEngine(QString name, QColor colour) : name_(std::move(name)), colour_(colour) {}
+    DrawingEngine(QString name, QColor color) : name_(std::move(name)), color_(color) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        QSvgRenderer renderer(DrawingBytes(name_, colour_));
+        QSvgRenderer renderer(DrawingBytes(name_, color_));
         painter->save();
         painter->setOpacity(mode == QIcon::Disabled ? DisabledOpacity : 1.0);
         renderer.render(painter, rect);
@@ -53,22 +53,22 @@ public:
         paint(&painter, QRect(QPoint(), size), mode, state);
         return pixmap;
     }
-    [[nodiscard]] QIconEngine* clone() const override { return new DrawingEngine(name_, colour_); }
+    [[nodiscard]] QIconEngine* clone() const override { return new DrawingEngine(name_, color_); }
 
 private:
     static constexpr qreal DisabledOpacity = 0.4;
     QString name_;
-    QColor colour_;
+    QColor color_;
 };
 
 } // namespace
 
-QIcon ArtworkIcon(const QString& name, const QColor& colour) {
-    return QIcon(new DrawingEngine(name, colour));
+QIcon ArtworkIcon(const QString& name, const QColor& color) {
+    return QIcon(new DrawingEngine(name, color));
 }
 
-QPixmap ArtworkPixmap(const QString& name, QSize size, qreal scale, const QColor& colour) {
-    DrawingEngine engine(name, colour);
+QPixmap ArtworkPixmap(const QString& name, QSize size, qreal scale, const QColor& color) {
+    DrawingEngine engine(name, color);
     QPixmap pixmap = engine.pixmap(size * scale, QIcon::Normal, QIcon::Off);
     pixmap.setDevicePixelRatio(scale);
     return pixmap;

@@ -10,10 +10,10 @@ namespace tavmoor {
 
 /// A drawing of the program, by its name without ".svg", drawn afresh at every size and scale.
 /// @param colour replaces the drawing's line colour; an invalid one keeps it
-QIcon ArtworkIcon(const QString& name, const QColor& colour = {});
+QIcon ArtworkIcon(const QString& name, const QColor& color = {});
 
 /// A drawing at a size in logical pixels, sharp on a screen of the given scale.
-QPixmap ArtworkPixmap(const QString& name, QSize size, qreal scale, const QColor& colour = {});
+QPixmap ArtworkPixmap(const QString& name, QSize size, qreal scale, const QColor& color = {});
 
 /// The drawing's own size in logical pixels.
 QSize ArtworkSize(const QString& name);

@@ -94,7 +94,7 @@ QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; paddin
 )");
 }
 
-QString WithColours(QString sheet) {
+QString WithColors(QString sheet) {
     // Longer names come before those that they begin with.
     const std::pair<QLatin1String, QColor> names[] = {
         {QLatin1String("@WindowBack"), WindowBack},
@@ -110,8 +110,8 @@ QString WithColours(QString sheet) {
         {QLatin1String("@DisabledText"), DisabledText},
         {QLatin1String("@Refused"), Refused},
     };
-    for (const auto& [name, colour] : names) {
-        sheet.replace(name, colour.name());
+    for (const auto& [name, color] : names) {
+        sheet.replace(name, color.name());
     }
     return sheet;
 }
@@ -134,7 +134,7 @@ void Apply(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(ProgramPalette());
     QApplication::setFont(BaseFont());
-    application.setStyleSheet(WithColours(ProgramSheet()));
+    application.setStyleSheet(WithColors(ProgramSheet()));
 }
 
 void MarkRefused(QWidget& control, bool refused) {

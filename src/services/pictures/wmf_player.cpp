@@ -90,7 +90,7 @@ private:
     void UsePenAndBrush() {
         UsePen();
         painter_.setBrush(state_.brush);
-        painter_.setBackground(state_.groundColour);
+        painter_.setBackground(state_.groundColor);
         painter_.setBackgroundMode(state_.isGroundFilled ? Qt::OpaqueMode : Qt::TransparentMode);
     }
     [[nodiscard]] Qt::FillRule FillRule() const {
@@ -136,8 +136,8 @@ private:
         UseClip();
     }
     void SetGroundMode(const ByteView& record) { state_.isGroundFilled = record.U16(6) == 2; }
-    void SetGroundColour(const ByteView& record) { state_.groundColour = WmfColour(record.U32(6)); }
-    void SetTextColour(const ByteView& record) { state_.textColour = WmfColour(record.U32(6)); }
+    void SetGroundColor(const ByteView& record) { state_.groundColor = WmfColor(record.U32(6)); }
+    void SetTextColor(const ByteView& record) { state_.textColor = WmfColor(record.U32(6)); }
     void SetTextAlignment(const ByteView& record) { state_.textAlignment = record.U16(6); }
     void SetFillMode(const ByteView& record) { state_.fillsWinding = record.U16(6) == 2; }
 
@@ -218,7 +218,7 @@ private:
     }
     void SetPixel(const ByteView& record) {
         painter_.fillRect(QRectF(Map(QPointF(record.I16(12), record.I16(10))), QSizeF(1, 1)),
-                          WmfColour(record.U32(6)));
+                          WmfColor(record.U32(6)));
     }
     void Clip(const ByteView& record, bool isIncluded) {
         QPainterPath rect;
@@ -290,7 +290,7 @@ private:
         if ((options & Opaque) != 0) {
             const QRectF rect(Map(QPointF(record.I16(14), record.I16(16))),
                               Map(QPointF(record.I16(18), record.I16(20))));
-            painter_.fillRect(rect.normalized(), state_.groundColour);
+            painter_.fillRect(rect.normalized(), state_.groundColor);
         }
         DrawText(record.Bytes(hasRectangle ? 22 : 14, record.U16(10)),
                  {static_cast<double>(record.I16(8)), static_cast<double>(record.I16(6))});
@@ -325,10 +325,10 @@ private:
         painter_.rotate(-state_.font.tenthsOfDegrees / 10.0);
         if (state_.isGroundFilled) {
             painter_.fillRect(QRectF(x, y - metrics.ascent(), width, metrics.height()),
-                              state_.groundColour);
+                              state_.groundColor);
         }
         painter_.setFont(font);
-        painter_.setPen(state_.textColour);
+        painter_.setPen(state_.textColor);
         painter_.setBackgroundMode(Qt::TransparentMode);
         painter_.drawText(QPointF(x, y), text);
         painter_.restore();
@@ -396,8 +396,8 @@ const std::array<std::pair<std::uint16_t, WmfPlayer::Step>, 40> WmfPlayer::Steps
     {0x001E, &WmfPlayer::SaveState},
     {0x0127, &WmfPlayer::RestoreState},
     {0x0102, &WmfPlayer::SetGroundMode},
-    {0x0201, &WmfPlayer::SetGroundColour},
-    {0x0209, &WmfPlayer::SetTextColour},
+    {0x0201, &WmfPlayer::SetGroundColor},
+    {0x0209, &WmfPlayer::SetTextColor},
     {0x012E, &WmfPlayer::SetTextAlignment},
     {0x0106, &WmfPlayer::SetFillMode},
     {0x0214, &WmfPlayer::MoveTo},

@@ -9,7 +9,7 @@
 
 namespace tavmoor {
 
-QColor WmfColour(std::uint32_t value) {
+QColor WmfColor(std::uint32_t value) {
     return {static_cast<int>(value & 0xFFU), static_cast<int>(value >> 8U & 0xFFU),
             static_cast<int>(value >> 16U & 0xFFU)};
 }
@@ -20,7 +20,7 @@ WmfPen ReadWmfPen(const ByteView& record) {
                                        Qt::SolidLine};
     const std::size_t style = record.U16(6) & 0x0FU;
     WmfPen pen;
-    pen.pen = QPen(WmfColour(record.U32(12)));
+    pen.pen = QPen(WmfColor(record.U32(12)));
     pen.pen.setStyle(style < Styles.size() ? Styles[style] : Qt::SolidLine);
     pen.pen.setCapStyle(Qt::RoundCap);
     pen.pen.setJoinStyle(Qt::RoundJoin);
@@ -38,7 +38,7 @@ QBrush ReadWmfBrush(const ByteView& record) {
         return {Qt::NoBrush};
     }
     const std::size_t hatch = record.U16(12);
-    return {WmfColour(record.U32(8)),
+    return {WmfColor(record.U32(8)),
             style == Hatched && hatch < Hatches.size() ? Hatches[hatch] : Qt::SolidPattern};
 }
 

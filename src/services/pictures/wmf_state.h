@@ -41,8 +41,8 @@ struct WmfState {
     WmfPen pen;
     QBrush brush{Qt::white};
     WmfFont font;
-    QColor textColour{Qt::black};
-    QColor groundColour{Qt::white};
+    QColor textColor{Qt::black};
+    QColor groundColor{Qt::white};
     bool isGroundFilled = true;
     bool fillsWinding = false;
     std::uint16_t textAlignment = 0;
@@ -52,7 +52,7 @@ struct WmfState {
 };
 
 /// A colour as metafiles store it, 0x00BBGGRR.
-QColor WmfColour(std::uint32_t value);
+QColor WmfColor(std::uint32_t value);
 
 // The records that make objects; `record` begins with the record's size.
 

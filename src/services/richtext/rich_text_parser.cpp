@@ -22,7 +22,7 @@ constexpr std::size_t MostTableEntries = 4096;
 constexpr std::size_t MostNameBytes = 256;
 constexpr int MostNumber = 1'000'000;
 
-enum class Destination : std::uint8_t { Text, FontTable, ColourTable, Skipped };
+enum class Destination : std::uint8_t { Text, FontTable, ColorTable, Skipped };
 
 /// What a group keeps and its end brings back.
 struct GroupState {
@@ -268,8 +268,8 @@ private:
         case Destination::FontTable:
             TakeFontName(character);
             break;
-        case Destination::ColourTable:
-            EndColour(character);
+        case Destination::ColorTable:
+            EndColor(character);
             break;
         case Destination::Skipped:
             break;
@@ -303,10 +303,10 @@ private:
             AppendUtf8(font->second.name, character);
         }
     }
-    void EndColour(char32_t character) {
-        if (character == U';' && document_.colours.size() < MostTableEntries) {
-            document_.colours.push_back(colour_);
-            colour_.reset();
+    void EndColor(char32_t character) {
+        if (character == U';' && document_.colors.size() < MostTableEntries) {
+            document_.colors.push_back(color_);
+            color_.reset();
         }
     }
     void EndParagraph() {
@@ -323,7 +323,7 @@ private:
         }
     }
     void FontTable(const ControlWord& /*word*/) { state_.destination = Destination::FontTable; }
-    void ColourTable(const ControlWord& /*word*/) { state_.destination = Destination::ColourTable; }
+    void ColorTable(const ControlWord& /*word*/) { state_.destination = Destination::ColorTable; }
     void AnsiCodePage(const ControlWord& word) {
         // Only code pages that are known take a table each.
         const int number = word.NumberOr(1252);
@@ -349,13 +349,13 @@ private:
             font->second.codePage = CodePageOfCharacterSet(word.NumberOr(0), ansiCodePage_);
         }
     }
-    void ColourPart(const ControlWord& word, unsigned shift) {
+    void ColorPart(const ControlWord& word, unsigned shift) {
         const auto part = static_cast<std::uint32_t>(std::clamp(word.NumberOr(0), 0, 255));
-        colour_ = (colour_.value_or(0) & ~(0xFFU << shift)) | part << shift;
+        color_ = (color_.value_or(0) & ~(0xFFU << shift)) | part << shift;
     }
-    void Red(const ControlWord& word) { ColourPart(word, 16); }
-    void Green(const ControlWord& word) { ColourPart(word, 8); }
-    void Blue(const ControlWord& word) { ColourPart(word, 0); }
+    void Red(const ControlWord& word) { ColorPart(word, 16); }
+    void Green(const ControlWord& word) { ColorPart(word, 8); }
+    void Blue(const ControlWord& word) { ColorPart(word, 0); }
     void UnicodeBytes(const ControlWord& word) {
         state_.bytesPerUnicode = std::clamp(word.NumberOr(1), 0, 16);
     }
@@ -383,7 +383,7 @@ private:
     void Size(const ControlWord& word) {
         state_.format.halfPoints = std::clamp(word.NumberOr(24), 2, 400);
     }
-    void Colour(const ControlWord& word) { state_.format.colour = word.NumberOr(0); }
+    void Color(const ControlWord& word) { state_.format.color = word.NumberOr(0); }
     void Ground(const ControlWord& word) { state_.format.ground = word.NumberOr(0); }
     void Bold(const ControlWord& word) { state_.format.bold = word.NumberOr(1) != 0; }
     void Italic(const ControlWord& word) { state_.format.italic = word.NumberOr(1) != 0; }
@@ -423,7 +423,7 @@ private:
     int ansiCodePage_ = 1252;
     int defaultFont_ = 0;
     int tableFont_ = -1;
-    std::optional<std::uint32_t> colour_;
+    std::optional<std::uint32_t> color_;
     int unicodeSkip_ = 0;
     char32_t highSurrogate_ = 0;
     std::map<int, std::unique_ptr<CodePage>> codePages_;
@@ -435,7 +435,7 @@ const std::array<RichTextParser::StepWord, 42> RichTextParser::Steps{{
     {"page", &RichTextParser::Paragraph},
     {"row", &RichTextParser::Paragraph},
     {"fonttbl", &RichTextParser::FontTable},
-    {"colortbl", &RichTextParser::ColourTable},
+    {"colortbl", &RichTextParser::ColorTable},
     {"ansicpg", &RichTextParser::AnsiCodePage},
     {"deff", &RichTextParser::DefaultFont},
     {"f", &RichTextParser::Font},
@@ -448,7 +448,7 @@ const std::array<RichTextParser::StepWord, 42> RichTextParser::Steps{{
     {"plain", &RichTextParser::PlainFormat},
     {"pard", &RichTextParser::PlainParagraph},
     {"fs", &RichTextParser::Size},
-    {"cf", &RichTextParser::Colour},
+    {"cf", &RichTextParser::Color},
     {"cb", &RichTextParser::Ground},
     {"highlight", &RichTextParser::Ground},
     {"b", &RichTextParser::Bold},

@@ -13,7 +13,7 @@ namespace tavmoor {
 struct RichTextFormat {
     int font = 0;
     int halfPoints = 24;
-    int colour = 0;
+    int color = 0;
     int ground = 0;
     bool bold = false;
     bool italic = false;
@@ -55,7 +55,7 @@ struct RichTextFont {
 struct RichText {
     std::map<int, RichTextFont> fonts;
     /// 0xRRGGBB; nothing stands for the window's own colour.
-    std::vector<std::optional<std::uint32_t>> colours;
+    std::vector<std::optional<std::uint32_t>> colors;
     std::vector<RichTextParagraph> paragraphs;
 };
 

@@ -24,12 +24,12 @@ double PixelsOf(int twips) {
 }
 
 /// The colour of a number; an invalid one for the window's own and for numbers beyond the table.
-QColor ColourOf(const RichText& text, int number) {
+QColor ColorOf(const RichText& text, int number) {
     const auto index = static_cast<std::size_t>(number);
-    if (number < 0 || index >= text.colours.size() || !text.colours[index]) {
+    if (number < 0 || index >= text.colors.size() || !text.colors[index]) {
         return {};
     }
-    return {QRgb{*text.colours[index] | 0xFF000000U}};
+    return {QRgb{*text.colors[index] | 0xFF000000U}};
 }
 
 QTextCharFormat CharacterFormat(const RichText& text, const RichTextFormat& format) {
@@ -47,10 +47,10 @@ QTextCharFormat CharacterFormat(const RichText& text, const RichTextFormat& form
         result.setVerticalAlignment(format.rise > 0 ? QTextCharFormat::AlignSuperScript
                                                     : QTextCharFormat::AlignSubScript);
     }
-    if (const QColor colour = ColourOf(text, format.colour); colour.isValid()) {
-        result.setForeground(colour);
+    if (const QColor color = ColorOf(text, format.color); color.isValid()) {
+        result.setForeground(color);
     }
-    if (const QColor ground = ColourOf(text, format.ground); ground.isValid()) {
+    if (const QColor ground = ColorOf(text, format.ground); ground.isValid()) {
         result.setBackground(ground);
     }
     return result;

@@ -49,8 +49,8 @@ void WindowBuildEvents::ShowMessage(std::string_view text, std::string_view titl
                     kind == BuildMessageKind::Critical ? BoxIcon::Critical : BoxIcon::None});
 }
 
-void WindowBuildEvents::ColourName(ColorValue colour) {
-    controls_.name->setStyleSheet(QStringLiteral("background: ") + ToQColor(colour).name());
+void WindowBuildEvents::ColorName(ColorValue color) {
+    controls_.name->setStyleSheet(QStringLiteral("background: ") + ToQColor(color).name());
 }
 
 void WindowBuildEvents::ReplaceName(std::string_view name) {

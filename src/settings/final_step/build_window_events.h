@@ -32,7 +32,7 @@ public:
 
     void Status(std::string_view text) override;
     void ShowMessage(std::string_view text, std::string_view title, BuildMessageKind kind) override;
-    void ColourName(ColorValue colour) override;
+    void ColorName(ColorValue color) override;
     void ReplaceName(std::string_view name) override;
     void MarkFolder() override;
     void EnableBuild(bool enabled) override;

@@ -86,7 +86,7 @@ TEST_F(CommonDialogTest, BeginsWhereAFolderOrAFilePathSaysElseBesideTheProgram) 
     }
 }
 
-TEST_F(CommonDialogTest, OnlySaveColourAndFontTurnACancelIntoAnError) {
+TEST_F(CommonDialogTest, OnlySaveColorAndFontTurnACancelIntoAnError) {
     dialog_.CancelError = true;
     dialog_.FileName = "old.txt";
     dialog_.FileTitle = "old.txt";
@@ -138,7 +138,7 @@ TEST_F(CommonDialogTest, GivesTheFolderThroughTheSharedValueAlone) {
     EXPECT_EQ(CommonDialog::LastFolder(), "");
 }
 
-TEST_F(CommonDialogTest, ColourGoesInAndOutWithItsFlags) {
+TEST_F(CommonDialogTest, ColorGoesInAndOutWithItsFlags) {
     dialog_.RGBResult = 0x0000CCFF; // blue, green, red
     dialog_.flags = 0xF2;
     dialogs_.colors = {QColor(1, 2, 3)};
@@ -149,7 +149,7 @@ TEST_F(CommonDialogTest, ColourGoesInAndOutWithItsFlags) {
     EXPECT_EQ(dialog_.RGBResult, 0x030201);
 }
 
-TEST_F(CommonDialogTest, FontGoesInAndOutAndKeepsAnUntouchedSystemColour) {
+TEST_F(CommonDialogTest, FontGoesInAndOutAndKeepsAnUntouchedSystemColor) {
     ScriptedBoxes boxes;
     const auto systemText = static_cast<ColorValue>(0x80000012);
     dialog_.FontName = "Arial";

@@ -167,7 +167,7 @@ TEST_F(QtDialogsTest, FolderGivesTheFolderItStandsIn) {
     EXPECT_EQ(dialogs_.Folder(request), request.folder);
 }
 
-TEST_F(QtDialogsTest, ColourComesBackWithTheCustomColours) {
+TEST_F(QtDialogsTest, ColorComesBackWithTheCustomColors) {
     ColorRequest request;
     request.color = QColor(255, 204, 0);
     request.customColors.fill(QColor(255, 255, 255));
@@ -182,7 +182,7 @@ TEST_F(QtDialogsTest, ColourComesBackWithTheCustomColours) {
     EXPECT_EQ(answer->customColors[3], QColor(9, 8, 7));
 }
 
-TEST_F(QtDialogsTest, FontKeepsWhatIsLeftAloneAndTakesEffectsAndColour) {
+TEST_F(QtDialogsTest, FontKeepsWhatIsLeftAloneAndTakesEffectsAndColor) {
     FontRequest request;
     request.title = QStringLiteral("Choose font...");
     request.font = {QStringLiteral("No Such Face"), 8.25, true, false, true, false, QColor()};
@@ -256,7 +256,7 @@ TEST(FileFilterTest, SplitsPairsAndPatterns) {
     EXPECT_TRUE(ParseFilter(u"").empty());
 }
 
-TEST(ColorValueTest, TurnsBytesAndSystemColoursAround) {
+TEST(ColorValueTest, TurnsBytesAndSystemColorsAround) {
     EXPECT_EQ(ToQColor(52479), QColor(255, 204, 0));
     EXPECT_EQ(ToColorValue(QColor(255, 204, 0)), 52479);
     EXPECT_EQ(ToQColor(-2147483630), QColor(Qt::black));     // button text

@@ -78,15 +78,15 @@ std::string Gif() {
 }
 
 /// Squares of one colour each, 0xAARRGGBB, with an empty mask; kind 1 is an icon, 2 a cursor.
-std::string Icons(int kind, const std::vector<std::pair<int, std::int64_t>>& sizesAndColours) {
+std::string Icons(int kind, const std::vector<std::pair<int, std::int64_t>>& sizesAndColors) {
     std::string bitmaps;
     std::string entries;
-    const std::size_t begin = 6 + 16 * sizesAndColours.size();
-    for (const auto& [size, colour] : sizesAndColours) {
+    const std::size_t begin = 6 + 16 * sizesAndColors.size();
+    for (const auto& [size, color] : sizesAndColors) {
         std::string bitmap =
             Longs({40, size, size * 2}) + Words({1, 32}) + Longs({0, 0, 0, 0, 0, 0});
         for (int i = 0; i < size * size; ++i) {
-            bitmap += Longs({colour});
+            bitmap += Longs({color});
         }
         bitmap.append(static_cast<std::size_t>(size * ((size + 31) / 32 * 4)), '\0');
         entries += std::string(2, static_cast<char>(size)) + std::string(2, '\0') +
@@ -95,7 +95,7 @@ std::string Icons(int kind, const std::vector<std::pair<int, std::int64_t>>& siz
                           static_cast<std::int64_t>(begin + bitmaps.size())});
         bitmaps += bitmap;
     }
-    return Words({0, kind, static_cast<std::int64_t>(sizesAndColours.size())}) + entries + bitmaps;
+    return Words({0, kind, static_cast<std::int64_t>(sizesAndColors.size())}) + entries + bitmaps;
 }
 
 std::string FilledRectangleWmf() {

@@ -41,9 +41,9 @@ TEST(RichTextParser, ReadsTextFormatsAndTables) {
     EXPECT_EQ(text->fonts.at(0).name, "Tahoma");
     EXPECT_EQ(text->fonts.at(1).name, "Georgia");
     EXPECT_EQ(text->fonts.at(1).codePage, 1250);
-    ASSERT_EQ(text->colours.size(), 2U);
-    EXPECT_FALSE(text->colours[0]);
-    EXPECT_EQ(text->colours[1], 0x1C5D7FU);
+    ASSERT_EQ(text->colors.size(), 2U);
+    EXPECT_FALSE(text->colors[0]);
+    EXPECT_EQ(text->colors[1], 0x1C5D7FU);
 
     ASSERT_EQ(text->paragraphs.size(), 3U);
     const RichTextParagraph& heading = text->paragraphs[0];
