@@ -1,6 +1,8 @@
 #include "services/shared/about_window.h"
 
 #include "core/text/maker.h"
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/shell_report.h"
 #include "services/look/artwork.h"
@@ -8,9 +10,6 @@
 #include "services/values/qt_text.h"
 
 #include <QFontMetrics>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 
 namespace tavmoor {
@@ -32,12 +31,10 @@ QString ContactText() {
 } // namespace
 
 frmAbout::frmAbout(ProgramContext context) : SkinnedWindow(context, AboutLook) {
-    auto* emblem = new QLabel(Body());
-    emblem->setObjectName(QStringLiteral("Image1"));
+    auto* emblem = MakeLabel("Image1", u"", Body());
     emblem->setPixmap(ArtworkPixmap(QStringLiteral("about"), EmblemSize, devicePixelRatioF()));
-    auto* layout = new QGridLayout(Body());
-    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Margin);
+    auto* layout = MakeGrid(Body(), theme::Margin);
+    SetWindowMargins(*layout);
     layout->addWidget(emblem, 0, 0, Qt::AlignTop);
     layout->addWidget(MakeContact(), 0, 1);
     layout->addWidget(MakeButtons(), 1, 0, 1, 2);
@@ -47,11 +44,8 @@ frmAbout::frmAbout(ProgramContext context) : SkinnedWindow(context, AboutLook) {
 
 QWidget* frmAbout::MakeContact() {
     auto* column = new QWidget(Body());
-    auto* layout = new QVBoxLayout(column);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Gap);
-    auto* version = new QLabel(ToQString(VersionText), column);
-    version->setObjectName(QStringLiteral("Label1"));
+    auto* layout = MakeColumn(column);
+    auto* version = MakeLabel("Label1", ToQString(VersionText), column);
     version->setFont(theme::HeadingFont());
     auto* contact = new QPlainTextEdit(ContactText(), column);
     contact->setObjectName(QStringLiteral("Label2"));
@@ -76,9 +70,7 @@ QWidget* frmAbout::MakeContact() {
 
 QWidget* frmAbout::MakeButtons() {
     auto* row = new QWidget(Body());
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeRow(row);
     auto* page = new PictureButton(
         {"Command2", "web", u"", u"Opens the web page of the program", ButtonLook::Link}, row);
     page->setText(ToQString(MakerWebPage));

@@ -1,5 +1,7 @@
 #include "services/shared/autorun_check_window.h"
 
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/message_box.h"
 #include "services/look/theme.h"
@@ -8,8 +10,6 @@
 #include "services/windows/program_session.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
-#include <QLabel>
 
 namespace tavmoor {
 
@@ -37,10 +37,7 @@ constexpr TextLine Explanations[] = {
 };
 
 QLabel* MakeText(const char* objectName, const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(QString::fromLatin1(objectName));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    auto* label = MakeParagraph(objectName, text, parent);
     label->setMinimumWidth(TextWidth);
     return label;
 }
@@ -48,9 +45,8 @@ QLabel* MakeText(const char* objectName, const QString& text, QWidget* parent) {
 } // namespace
 
 Form13::Form13(ProgramContext context) : SkinnedWindow(context, Form13Look) {
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Margin);
+    auto* layout = MakeColumn(Body(), theme::Margin);
+    SetWindowMargins(*layout);
     auto* heading =
         MakeText("Label1", QStringLiteral("Check autorun(and enable if necessary)"), Body());
     heading->setFont(theme::HeadingFont());
@@ -78,9 +74,7 @@ Form13::Form13(ProgramContext context) : SkinnedWindow(context, Form13Look) {
 
 QWidget* Form13::MakeButtons() {
     auto* row = new QWidget(Body());
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeRow(row);
     auto* cancel = new PictureButton(
         {"Command1", "cancel", u"&Close", u"Closes the window without a check"}, row);
     auto* check = new PictureButton({"Command2", "ok", u"Check &autorun",

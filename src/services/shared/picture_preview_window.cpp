@@ -1,18 +1,17 @@
 #include "services/shared/picture_preview_window.h"
 
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/picture_format_check.h"
 #include "services/dialogs/shell_report.h"
-#include "services/look/theme.h"
 #include "services/pictures/picture_loader.h"
 #include "services/values/twips.h"
 #include "services/windows/program_session.h"
 
 #include <QCheckBox>
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QImage>
-#include <QLabel>
 #include <QPixmap>
 
 namespace tavmoor {
@@ -60,19 +59,17 @@ QPoint PreviewPlace(const QRect& main, QSize window) {
 }
 
 Form2::Form2(ProgramContext context) : SkinnedWindow(context, Form2Look) {
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeColumn(Body());
+    SetWindowMargins(*layout);
     room_ = new QFrame(Body());
     room_->setFixedSize(Room);
-    picture_ = new QLabel(room_);
-    picture_->setObjectName(QStringLiteral("Image1"));
+    picture_ = MakeLabel("Image1", u"", room_);
     picture_->setAccessibleName(QStringLiteral("Chosen picture"));
     picture_->setScaledContents(true);
     disable_ = new QCheckBox(QStringLiteral("Disable picture preview"), Body());
     disable_->setObjectName(QStringLiteral("Check1"));
     auto* closing = new PictureButton({"Command1", "close", u"&Close", u""}, Body());
-    auto* row = new QHBoxLayout;
+    auto* row = MakeRow();
     row->addWidget(disable_);
     row->addStretch();
     row->addWidget(closing);

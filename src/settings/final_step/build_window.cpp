@@ -4,7 +4,8 @@
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
 #include "disc/output_check.h"
-#include "services/controls/caption_label.h"
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/status_label.h"
 #include "services/controls/text_boxes.h"
@@ -15,10 +16,8 @@
 #include "services/windows/program_session.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QProgressBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -69,9 +68,8 @@ private:
 };
 
 Form8::Form8(ProgramContext context) : SkinnedWindow(context, Form8Look) {
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeColumn(Body());
+    SetWindowMargins(*layout);
     layout->addLayout(MakeFields());
     start_ = new QCheckBox(QStringLiteral("&Start autorun after 'Build and save'"), Body());
     start_->setObjectName(QStringLiteral("Check1"));
@@ -86,8 +84,7 @@ QLayout* Form8::MakeFields() {
     folder_ = new ValueLabel("Label2", Body());
     name_ = new TextBox("Text1", Body());
     name_->setToolTip(QStringLiteral("Name of the autorun program. Letters, digits, _ and -"));
-    auto* fields = new QGridLayout;
-    fields->setSpacing(theme::Gap);
+    auto* fields = MakeGrid();
     fields->addWidget(MakeCaption(u"CD-ROM files folder:", folder_, Body()), 0, 0);
     fields->addWidget(folder_, 0, 1, 1, 2);
     fields->addWidget(MakeCaption(u"&Name of the autorun:", name_, Body()), 1, 0);
@@ -125,8 +122,7 @@ QLayout* Form8::MakeButtons() {
     connect(build_, &QAbstractButton::clicked, this, &Form8::Build);
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
     SetKeyButtons(build_, close);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(theme::Gap);
+    auto* buttons = MakeRow();
     buttons->addStretch(1);
     buttons->addWidget(build_);
     buttons->addWidget(close);

@@ -1,7 +1,7 @@
 #include "settings/main/hint_line.h"
 
 #include "core/text/maker.h"
-#include "services/look/theme.h"
+#include "services/controls/labels.h"
 #include "services/values/qt_text.h"
 
 #include <QEvent>
@@ -39,9 +39,8 @@ constexpr const char* HintProperty = "hint";
 
 HintLine::HintLine(QWidget* parent) : QLabel(parent) {
     setObjectName(QStringLiteral("Label1"));
-    setProperty("look", QStringLiteral("note"));
     setTextFormat(Qt::PlainText);
-    setFont(theme::NoteFont());
+    LookLikeNote(*this);
     setWordWrap(true);
     Restore();
 }

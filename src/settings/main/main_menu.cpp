@@ -1,10 +1,10 @@
 #include "settings/main/main_menu.h"
 
+#include "services/controls/layouts.h"
 #include "services/controls/menu_entry.h"
 #include "services/windows/program_session.h"
 
 #include <QFrame>
-#include <QVBoxLayout>
 
 namespace tavmoor {
 
@@ -21,7 +21,7 @@ constexpr WindowLook Menu1Look{.name = WindowName::menu1,
 } // namespace
 
 menu1::menu1(ProgramContext context) : SkinnedWindow(context, Menu1Look) {
-    auto* layout = new QVBoxLayout(Body());
+    auto* layout = MakeColumn(Body());
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     sides_ = {MakeSide(MenuSide::File, "Frame1"), MakeSide(MenuSide::Program, "Frame2")};
@@ -33,9 +33,8 @@ menu1::menu1(ProgramContext context) : SkinnedWindow(context, Menu1Look) {
 QFrame* menu1::MakeSide(MenuSide side, const char* objectName) {
     auto* frame = new QFrame(Body());
     frame->setObjectName(QString::fromLatin1(objectName));
-    auto* layout = new QVBoxLayout(frame);
+    auto* layout = MakeColumn(frame, 0);
     layout->setContentsMargins(0, 4, 0, 4);
-    layout->setSpacing(0);
     for (const MenuEntry& entry : MenuEntries) {
         if (entry.side == side) {
             const QByteArray name = "Entry" + QByteArray::number(static_cast<int>(entry.action));

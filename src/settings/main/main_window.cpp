@@ -3,6 +3,7 @@
 #include "core/files/runtime_error.h"
 #include "core/session/program_settings.h"
 #include "core/text/maker.h"
+#include "services/controls/labels.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/message_box.h"
 #include "services/dialogs/shell_report.h"
@@ -19,7 +20,6 @@
 #include "settings/steps/main_settings_panel.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QShortcut>
 
 namespace tavmoor {
@@ -94,10 +94,8 @@ void Form1::MakeTopRow() {
     programMenu_->adjustSize();
     connect(fileMenu_, &QAbstractButton::clicked, this, [this] { OpenMenu(MenuSide::File); });
     connect(programMenu_, &QAbstractButton::clicked, this, [this] { OpenMenu(MenuSide::Program); });
-    title_ = new QLabel(this);
-    title_->setObjectName(QStringLiteral("ProjectTitle"));
+    title_ = MakeLabel("ProjectTitle", u"", this);
     title_->setProperty("look", QStringLiteral("note"));
-    title_->setTextFormat(Qt::PlainText);
     title_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     title_->setGeometry(TitlePlace);
 }

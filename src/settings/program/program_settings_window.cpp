@@ -1,6 +1,8 @@
 #include "settings/program/program_settings_window.h"
 
 #include "core/files/build_folder.h"
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/common_dialog.h"
@@ -10,10 +12,7 @@
 #include "services/windows/program_session.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QRadioButton>
 
 namespace tavmoor {
@@ -52,9 +51,8 @@ QString Literal(QString text) {
 
 Form3::Form3(ProgramContext context) : SkinnedWindow(context, Form3Look) {
     static_assert(FlagFields.size() == FlagCount);
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeColumn(Body());
+    SetWindowMargins(*layout);
     constexpr std::size_t FlagsAboveFolder = 2;
     for (std::size_t i = 0; i < FlagCount; ++i) {
         if (i == FlagsAboveFolder) {
@@ -107,16 +105,13 @@ QWidget* Form3::MakeFolderGroup() {
 
 QWidget* Form3::MakeAutorunRow() {
     auto* row = new QWidget(Body());
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Margin);
-    auto* text = new QLabel(
+    auto* layout = MakeRow(row, theme::Margin);
+    auto* text = MakeParagraph(
+        "Label3",
         QStringLiteral("When you insert a CD-ROM in your CD-ROM drive, the AutoRun feature may not "
                        "work or may be unavailable. Click on the button to enable autorun on your "
                        "computer."),
         row);
-    text->setObjectName(QStringLiteral("Label3"));
-    text->setWordWrap(true);
     auto* check = new PictureButton(
         {"Command4", "disc", u"Check &autorun...", u"Opens the autorun check"}, row);
     layout->addWidget(text, 1);
@@ -127,9 +122,8 @@ QWidget* Form3::MakeAutorunRow() {
 
 QWidget* Form3::MakeButtons() {
     auto* row = new QWidget(Body());
-    auto* layout = new QHBoxLayout(row);
+    auto* layout = MakeRow(row);
     layout->setContentsMargins(0, theme::Gap, 0, 0);
-    layout->setSpacing(theme::Gap);
     auto* cancel = new PictureButton(
         {"Command1", "cancel", u"&Cancel", u"Leaves the settings as they were (Esc)"}, row);
     auto* store = new PictureButton(

@@ -1,11 +1,11 @@
 #include "settings/program/program_splash_window.h"
 
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/look/artwork.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QScreen>
-#include <QVBoxLayout>
 
 namespace tavmoor {
 
@@ -24,13 +24,10 @@ constexpr std::chrono::milliseconds SplashTime{3000};
 Form5::Form5(ProgramContext context) : SkinnedWindow(context, Form5Look) {
     const QString artwork = QStringLiteral("splash");
     const QSize size = ArtworkSize(artwork);
-    auto* image = new QLabel(Body());
-    image->setObjectName(QStringLiteral("Image1"));
+    auto* image = MakeLabel("Image1", u"", Body());
     image->setPixmap(ArtworkPixmap(artwork, size, devicePixelRatioF()));
     image->setAccessibleName(QStringLiteral("Tavmoor is starting"));
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(image);
+    MakeColumn(Body())->addWidget(image);
     // The picture covers the window's frame, too.
     QWidget::layout()->setContentsMargins(0, 0, 0, 0);
     setFixedSize(size);

@@ -1,7 +1,7 @@
 #include "settings/screens/screen_panel.h"
 
-#include "services/controls/caption_label.h"
 #include "services/controls/color_box.h"
+#include "services/controls/labels.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/spin_bar.h"
 #include "services/controls/text_boxes.h"

@@ -1,8 +1,8 @@
 #include "settings/steps/main_settings_panel.h"
 
 #include "core/text/text_case.h"
-#include "services/controls/caption_label.h"
 #include "services/controls/color_box.h"
+#include "services/controls/labels.h"
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/value_label.h"

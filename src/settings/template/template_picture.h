@@ -19,7 +19,6 @@ public:
 
     /// A null image leaves the box empty.
     void SetPicture(const QImage& picture);
-    [[nodiscard]] bool IsAutosize() const { return autosize_; }
     /// Makes a picture at its own size small again, after a click beside it.
     void Shrink();
 

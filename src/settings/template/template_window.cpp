@@ -1,5 +1,7 @@
 #include "settings/template/template_window.h"
 
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/message_box.h"
 #include "services/look/theme.h"
@@ -12,12 +14,10 @@
 #include "templates/template_catalogue.h"
 
 #include <QGroupBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QTextEdit>
-#include <QVBoxLayout>
 
 namespace tavmoor {
 
@@ -32,21 +32,13 @@ constexpr WindowLook Form7Look{
 
 constexpr QSize WindowSize{744, 480}; // logical pixels
 
-QLabel* MakeLabel(const char* objectName, const char16_t* text, QWidget* parent) {
-    auto* label = new QLabel(QString::fromUtf16(text), parent);
-    label->setObjectName(QString::fromLatin1(objectName));
-    return label;
-}
-
 } // namespace
 
 Form7::Form7(ProgramContext context) : SkinnedWindow(context, Form7Look) {
     setFixedSize(WindowSize);
-    auto* layout = new QVBoxLayout(Body());
+    auto* layout = MakeColumn(Body());
     layout->setContentsMargins(theme::Margin, 1, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Gap);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(theme::Margin);
+    auto* columns = MakeRow(nullptr, theme::Margin);
     columns->addWidget(MakeChoice(), 1);
     columns->addLayout(MakeProperties());
     layout->addLayout(columns, 1);
@@ -78,14 +70,12 @@ QWidget* Form7::MakeChoice() {
 QBoxLayout* Form7::MakeProperties() {
     picture_ = new TemplatePicture(*this);
     const QRect place = TemplatePicture::SmallPlace();
-    auto* column = new QVBoxLayout;
-    column->setSpacing(0);
+    auto* column = MakeColumn(nullptr, 0);
     auto* heading = MakeLabel("Label2", u"Template properties", Body());
     // The picture lies in the window itself; the column leaves its place free.
     heading->setFixedSize(place.width(), place.top() - theme::TitleHeight - 2);
     auto* note = MakeLabel("Label3", u"Click to see whole picture", Body());
-    note->setProperty("look", QStringLiteral("note"));
-    note->setFont(theme::NoteFont());
+    LookLikeNote(*note);
     description_ = new QTextEdit(Body());
     description_->setObjectName(QStringLiteral("rt1"));
     description_->setAccessibleName(QStringLiteral("Description of the template"));
@@ -101,8 +91,7 @@ QBoxLayout* Form7::MakeProperties() {
 }
 
 QBoxLayout* Form7::MakeButtons() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(theme::Gap);
+    auto* row = MakeRow();
     auto* confirm = new PictureButton({"Command1", "ok", u"&Ok", u"", ButtonLook::Primary}, Body());
     auto* cancel = new PictureButton({"Command2", "cancel", u"&Cancel", u""}, Body());
     row->addStretch();
