@@ -64,8 +64,8 @@ struct FieldPlace {
 };
 
 /// The field of a section and key, such as "Napredni sabloni" and "DugmeX(3)", without regard to
-/// case; nothing when no file has such a field. Used where fields are named at run time: windows
-/// that bind controls to fields, and tools.
+/// case; nothing when no file has such a field. Used where a field is known by its
+/// name alone.
 std::optional<FieldPlace> FindField(std::string_view section, std::string_view key);
 
 /// What stands behind the name in the keys of a row: "", "3" or "(3)".

@@ -1,58 +1,74 @@
 #pragma once
 
-#include "core/document/project_document.h"
-#include "core/document/project_fields.h"
+#include "core/document/field_access.h"
 
 #include <QObject>
-#include <QString>
 
 #include <cstdint>
-#include <span>
-#include <string_view>
+#include <functional>
+#include <string>
 #include <vector>
 
+class QAbstractSlider;
+class QCheckBox;
+class QComboBox;
+class QRadioButton;
 class QWidget;
 
 namespace tavmoor {
 
-/// How a control shows and changes a field.
-enum class FieldForm : std::uint8_t {
-    Text,       ///< a TextBox, PathBox or MemoBox
-    Shown,      ///< a ValueLabel; the value is chosen elsewhere
-    Checked,    ///< a check box, for a flag or a number 0 or 1
-    Choice,     ///< a combo box; its text is the value, "" is no choice
-    Number,     ///< a spin box, slider or scroll bar
-    Option,     ///< a radio button that stands for one value of a number or flag
-    Color,      ///< a ColorBox
-    TextColor,  ///< the text colour of a control; the value is chosen elsewhere
-    BackColor,  ///< the back colour of a control; the value is chosen elsewhere
-    BoldFont,   ///< a control's own font is bold; the value is chosen elsewhere
-    ItalicFont, ///< the same for italic
-    FontName,   ///< the same for the name
-    FontSize,   ///< the same for the size, in points
-};
-
-/// One row of a window's table: a control, how it shows a field, and the field.
-struct FieldBinding {
-    const char* control;
-    FieldForm form;
-    std::string_view section;
-    std::string_view key;
-    int value = 0; ///< what an Option stands for
-};
+class ColorBox;
+class MemoBox;
+class PathBox;
+class TextBox;
+class ValueLabel;
 
 /// When the window's input goes to the document.
 enum class Storing : std::uint8_t { AtOnce, OnConfirm };
 
-/// Ties the controls of a window to fields of the document by a table. The only place that copies
-/// values between the two.
+/// Ties the controls of a window to fields of the document, as they are made:
+/// `binder.Bind(*box, At<&ProjectDocument::Zvuk, &SoundSpec::Komanda>)`. The control says how the
+/// field is shown; a field of a type that it cannot show does not compile. The only place that
+/// copies values between the two.
 class FieldBinder final : public QObject {
     Q_OBJECT
 
 public:
-    /// @param window has all controls of the table, under their object names
-    FieldBinder(QWidget& window, ProjectDocument& document, std::span<const FieldBinding> table,
-                Storing storing);
+    /// @param window has all controls that are bound; the binder lives as long as it
+    /// @param document outlives the window
+    FieldBinder(QWidget& window, ProjectDocument& document, Storing storing);
+
+    // Controls in which the user gives the value.
+
+    void Bind(TextBox& box, FieldOf<std::string> field);
+    /// What has no document form is not stored.
+    void Bind(PathBox& box, FieldOf<std::string> field);
+    void Bind(MemoBox& box, FieldOf<std::string> field);
+    void Bind(QCheckBox& box, FieldOf<bool> field);
+    void Bind(QCheckBox& box, FieldOf<std::int16_t> field); ///< stored as 0 or 1
+    /// The entry's text is the value, "" is no choice. A value that is no entry is shown and kept.
+    void Bind(QComboBox& box, FieldOf<std::string> field);
+    /// A scroll bar as well. A number out of its range stays until the user sets another one.
+    void Bind(QAbstractSlider& slider, FieldOf<std::int16_t> field);
+    /// @param value what the button stands for
+    void BindOption(QRadioButton& button, FieldOf<bool> field, bool value);
+    void BindOption(QRadioButton& button, FieldOf<std::int16_t> field, std::int16_t value);
+
+    // Controls that show a value which is chosen elsewhere.
+
+    void Bind(ValueLabel& label, FieldOf<std::string> field);
+    void Bind(ValueLabel& label, FieldOf<std::int16_t> field);
+    /// What the box was given by SetColor goes to the field with Store.
+    void Bind(ColorBox& box, FieldOf<ColorValue> field);
+    void Bind(ColorBox& box, FieldOf<std::string> field); ///< a colour's decimal text
+    void BindTextColor(QWidget& control, FieldOf<ColorValue> field);
+    void BindTextColor(QWidget& control, FieldOf<std::string> field);
+    void BindBackColor(QWidget& control, FieldOf<ColorValue> field);
+    void BindBackColor(QWidget& control, FieldOf<std::string> field);
+    void BindBold(QWidget& control, FieldOf<bool> field);
+    void BindItalic(QWidget& control, FieldOf<bool> field);
+    void BindFontName(QWidget& control, FieldOf<std::string> field);
+    void BindFontSize(QWidget& control, FieldOf<std::string> field); ///< points
 
     /// Shows all fields. What the user is not editing is not stored back, so that values out of a
     /// control's range survive.
@@ -62,18 +78,29 @@ public:
 
 Q_SIGNALS:
     /// The user changed the control and its field was stored.
-    void Stored(const QString& control);
+    void Stored(QWidget* control);
 
 private:
     struct Bound {
-        const FieldBinding* row;
         QWidget* control;
-        FieldPlace place;
+        std::function<void()> show;
+        std::function<void()> store; ///< empty for what is chosen elsewhere
     };
 
-    void Connect(const Bound& bound);
+    template <typename Control, typename Value, typename ShowIt>
+    void AddShown(Control& control, FieldOf<Value> field, ShowIt show);
+    /// @return what to call when the user has changed the control
+    template <typename Control, typename Value, typename ShowIt, typename TakeIt>
+    auto AddInput(Control& control, FieldOf<Value> field, ShowIt show, TakeIt take);
+    template <typename Value>
+    void AddCheck(QCheckBox& box, FieldOf<Value> field);
+    template <typename Value>
+    void AddOption(QRadioButton& button, FieldOf<Value> field, Value value);
+    template <typename Value>
+    void AddColor(ColorBox& box, FieldOf<Value> field);
+    template <typename Value, typename Change>
+    void AddFont(QWidget& control, FieldOf<Value> field, Change change);
     void Edited(const Bound& bound);
-    void StoreOne(const Bound& bound);
 
     ProjectDocument& document_;
     std::vector<Bound> rows_;

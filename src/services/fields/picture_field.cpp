@@ -1,21 +1,23 @@
 #include "services/fields/picture_field.h"
 
+#include "services/controls/layouts.h"
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/value_label.h"
+#include "services/fields/field_binding.h"
 #include "services/fields/field_pickers.h"
-#include "services/look/theme.h"
 #include "services/values/qt_text.h"
-
-#include <QHBoxLayout>
+#include "services/windows/program_session.h"
 
 namespace tavmoor {
 
 PictureField::PictureField(const PictureFieldDescription& description, ProgramContext context,
-                           std::string& path, QWidget* parent)
-    : QWidget(parent), description_(description), context_(context), path_(path) {
+                           FieldBinder& binder, FieldOf<std::string> path, QWidget* parent)
+    : QWidget(parent), description_(description), context_(context),
+      path_(path.In(context.session.document)) {
     auto* label = new ValueLabel(description.label, this);
     label->setAccessibleName(QString::fromUtf16(description.meaning));
+    binder.Bind(*label, path);
     auto* browse = new PictureButton(
         {description.browse, "browse", u"", description.browseTooltip, ButtonLook::Icon}, this);
     auto* remove = new PictureButton(
@@ -27,9 +29,7 @@ PictureField::PictureField(const PictureFieldDescription& description, ProgramCo
         TakePicture(context_, *this, FromQString(dropped),
                     [this](const std::string& taken) { Store(taken); });
     });
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeRow(this);
     layout->addWidget(label, 1);
     layout->addWidget(browse);
     layout->addWidget(remove);

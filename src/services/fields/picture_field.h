@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/document/field_access.h"
 #include "services/windows/window_registry.h"
 
 #include <QWidget>
@@ -8,6 +9,8 @@
 #include <string_view>
 
 namespace tavmoor {
+
+class FieldBinder;
 
 /// What makes a field for a picture.
 struct PictureFieldDescription {
@@ -22,14 +25,15 @@ struct PictureFieldDescription {
 };
 
 /// A field for a picture's path: a label, on which a file can be dropped as well, and the buttons
-/// that choose and remove it. The label itself is shown by the panel's table.
+/// that choose and remove it.
 class PictureField final : public QWidget {
     Q_OBJECT
 
 public:
-    /// @param path the document's field, in document form; it outlives the widget
+    /// @param binder shows the path in the label
+    /// @param path in document form
     PictureField(const PictureFieldDescription& description, ProgramContext context,
-                 std::string& path, QWidget* parent);
+                 FieldBinder& binder, FieldOf<std::string> path, QWidget* parent);
 
 Q_SIGNALS:
     /// The picture was chosen or removed; the field has it already.

@@ -2,6 +2,8 @@
 
 #include "core/text/value_encoding.h"
 #include "services/colors/color_pick.h"
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/text_boxes.h"
 #include "services/controls/value_label.h"
@@ -10,13 +12,10 @@
 #include "services/fields/field_pickers.h"
 #include "services/look/theme.h"
 #include "services/values/color_value.h"
-#include "services/values/qt_text.h"
 #include "services/windows/program_session.h"
 #include "settings/commands/command_look_sample.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QShowEvent>
 
 #include <array>
@@ -30,31 +29,23 @@ constexpr WindowLook Form4Look{.name = WindowName::Form4,
                                .title = u"Command descriptions",
                                .dragArea = "Image1"};
 
-/// The labels with the titles of the commands.
-constexpr std::array CommandLabels{"Label93", "Label1", "Label2", "Label3", "Label4", "Label5"};
-
-constexpr std::string_view Section = "Opis komandi";
-constexpr std::string_view LookSection = "Izvrsne komande";
-
-/// The title and the text of one command after the other; then the look.
-constexpr std::array Fields{
-    FieldBinding{"Text30", FieldForm::Text, Section, "C1"},
-    FieldBinding{"Text31", FieldForm::Text, Section, "O1"},
-    FieldBinding{"Text3", FieldForm::Text, Section, "C2"},
-    FieldBinding{"Text32", FieldForm::Text, Section, "O2"},
-    FieldBinding{"Text4", FieldForm::Text, Section, "C3"},
-    FieldBinding{"Text33", FieldForm::Text, Section, "O3"},
-    FieldBinding{"Text5", FieldForm::Text, Section, "C4"},
-    FieldBinding{"Text34", FieldForm::Text, Section, "O4"},
-    FieldBinding{"Text6", FieldForm::Text, Section, "C5"},
-    FieldBinding{"Text1", FieldForm::Text, Section, "O5"},
-    FieldBinding{"Text7", FieldForm::Text, Section, "C6"},
-    FieldBinding{"Text2", FieldForm::Text, Section, "O6"},
-    FieldBinding{"Label11", FieldForm::TextColor, LookSection, "Boja slova"},
-    FieldBinding{"Label11", FieldForm::BackColor, LookSection, "Boja pozadine komandi"},
-    FieldBinding{"Label11", FieldForm::FontName, LookSection, "Font"},
-    FieldBinding{"Label11", FieldForm::FontSize, LookSection, "Velicina"},
+/// The controls of one command.
+struct DescriptionRow {
+    const char* command; ///< the label with the command's title
+    const char* title;
+    const char* text;
 };
+
+constexpr std::array DescriptionRows{
+    DescriptionRow{"Label93", "Text30", "Text31"}, DescriptionRow{"Label1", "Text3", "Text32"},
+    DescriptionRow{"Label2", "Text4", "Text33"},   DescriptionRow{"Label3", "Text5", "Text34"},
+    DescriptionRow{"Label4", "Text6", "Text1"},    DescriptionRow{"Label5", "Text7", "Text2"},
+};
+
+using D = ProjectDocument;
+
+template <auto Member>
+constexpr auto MenuLook = At<&D::IzvrsneKomande, Member>;
 
 /// The look where the project says nothing.
 constexpr ColorValue UsualTextColor = 52479;
@@ -69,75 +60,73 @@ constexpr int TextMargin = 2;
 constexpr int RowGap = 5;
 constexpr int ExampleWidth = 300;
 
-QLabel* MakeLabel(const char* objectName, const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(QString::fromLatin1(objectName));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
-Form4::Form4(ProgramContext context) : SkinnedWindow(context, Form4Look) {
+Form4::Form4(ProgramContext context)
+    : SkinnedWindow(context, Form4Look),
+      binder_(new FieldBinder(*this, Document(), Storing::AtOnce)) {
     SetHidesOnClose(true);
     setFixedWidth(WindowWidth);
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
-    layout->setSpacing(theme::Gap);
-    layout->addWidget(MakeLabel("Label85",
-                                QStringLiteral("Add description for all commands, buttons that "
-                                               "will display when user place mouse over the "
-                                               "command..."),
-                                Body()));
+    auto* layout = MakeColumn(Body());
+    SetWindowMargins(*layout);
+    layout->addWidget(
+        MakeParagraph("Label85",
+                      QStringLiteral("Add description for all commands, buttons that will display "
+                                     "when user place mouse over the command..."),
+                      Body()));
     layout->addLayout(MakeDescriptions());
-    auto* heading = MakeLabel("Label13", QStringLiteral("Menu/buttons properties"), Body());
+    auto* heading = MakeLabel("Label13", u"Menu/buttons properties", Body());
     heading->setFont(theme::HeadingFont());
     layout->addWidget(heading);
     layout->addLayout(MakeLook());
-    binder_ = new FieldBinder(*this, Document(), Fields, Storing::AtOnce);
 }
 
 QLayout* Form4::MakeDescriptions() {
     constexpr int TitleStretch = 2;
     constexpr int TextStretch = 5;
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(theme::Gap);
+    auto* grid = MakeGrid();
     grid->setVerticalSpacing(RowGap);
     grid->setColumnMinimumWidth(0, CommandWidth);
     grid->setColumnStretch(1, TitleStretch);
     grid->setColumnStretch(2, TextStretch);
-    grid->addWidget(MakeLabel("Label91", QStringLiteral("Description title"), Body()), 0, 1);
-    grid->addWidget(MakeLabel("Label92", QStringLiteral("Detail description"), Body()), 0, 2);
-    for (std::size_t row = 0; row < CommandLabels.size(); ++row) {
-        AddRow(*grid, static_cast<int>(row));
+    grid->addWidget(MakeLabel("Label91", u"Description title", Body()), 0, 1);
+    grid->addWidget(MakeLabel("Label92", u"Detail description", Body()), 0, 2);
+    for (std::size_t command = 1; command <= DescriptionRows.size(); ++command) {
+        AddRow(*grid, command);
     }
     return grid;
 }
 
-void Form4::AddRow(QGridLayout& grid, int row) {
-    const auto index = static_cast<std::size_t>(row);
-    const QString command = QStringLiteral("Command %1").arg(row + 1);
-    auto* head = new ValueLabel(CommandLabels.at(index), Body());
+void Form4::AddRow(QGridLayout& grid, std::size_t command) {
+    const DescriptionRow& names = DescriptionRows.at(command - 1);
+    const int line = static_cast<int>(command);
+    const QString number = QStringLiteral("Command %1: ").arg(command);
+    auto* head = new ValueLabel(names.command, Body());
     head->setProperty("look", QString());
     head->setFixedWidth(CommandWidth);
-    head->SetFullText(command);
-    auto* title = new TextBox(Fields.at(2 * index).control, Body());
-    title->setAccessibleName(command + QStringLiteral(": Description title"));
-    auto* text = new MemoBox(Fields.at(2 * index + 1).control, Body());
-    text->setAccessibleName(command + QStringLiteral(": Detail description"));
+    binder_->Bind(*head,
+                  At<&D::IzvrsneKomande, &CommandLook::Komande, &FixedCommand::Opis>[command]);
+    auto* title = new TextBox(names.title, Body());
+    title->setAccessibleName(number + QStringLiteral("Description title"));
+    binder_->Bind(*title, At<&D::OpisKomandi, &CommandDescription::C>[command]);
+    auto* text = new MemoBox(names.text, Body());
+    text->setAccessibleName(number + QStringLiteral("Detail description"));
     text->document()->setDocumentMargin(TextMargin);
     text->setFixedHeight(TextHeight);
-    grid.addWidget(head, row + 1, 0);
-    grid.addWidget(title, row + 1, 1);
-    grid.addWidget(text, row + 1, 2);
+    binder_->Bind(*text, At<&D::OpisKomandi, &CommandDescription::O>[command]);
+    grid.addWidget(head, line, 0);
+    grid.addWidget(title, line, 1);
+    grid.addWidget(text, line, 2);
 }
 
 QLayout* Form4::MakeLook() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(theme::Margin);
+    auto* row = MakeRow(nullptr, theme::Margin);
     row->addLayout(MakeLookButtons());
     sample_ = new CommandLookSample(Body());
+    binder_->BindTextColor(sample_->Sample(), MenuLook<&CommandLook::Bojaslova>);
+    binder_->BindBackColor(sample_->Sample(), MenuLook<&CommandLook::Bojapozadinekomandi>);
+    binder_->BindFontName(sample_->Sample(), MenuLook<&CommandLook::Font>);
+    binder_->BindFontSize(sample_->Sample(), MenuLook<&CommandLook::Velicina>);
     row->addWidget(sample_, 1);
     auto* right = new QVBoxLayout;
     right->addWidget(MakeExample());
@@ -169,15 +158,16 @@ QWidget* Form4::MakeExample() {
     box->setObjectName(QStringLiteral("Label8"));
     box->setFixedWidth(ExampleWidth);
     auto* inside = new QVBoxLayout(box);
-    auto* title = MakeLabel("Label6", QStringLiteral("Install Mozilla Firefox"), box);
+    auto* title = MakeParagraph("Label6", QStringLiteral("Install Mozilla Firefox"), box);
     QFont bold = theme::BaseFont();
     bold.setBold(true);
     title->setFont(bold);
     inside->addWidget(title);
-    inside->addWidget(MakeLabel("Label7",
-                                QStringLiteral("This will install Mozilla Firefox browser on your "
-                                               "computer. Click the button to continue"),
-                                box));
+    inside->addWidget(
+        MakeParagraph("Label7",
+                      QStringLiteral("This will install Mozilla Firefox browser on your computer. "
+                                     "Click the button to continue"),
+                      box));
     return box;
 }
 
@@ -207,14 +197,6 @@ void Form4::showEvent(QShowEvent* event) {
 void Form4::ShowDocument() {
     CompleteLook();
     binder_->Show();
-    ShowCommandTitles();
-}
-
-void Form4::ShowCommandTitles() {
-    for (std::size_t row = 0; row < CommandLabels.size(); ++row) {
-        auto* head = findChild<ValueLabel*>(QString::fromLatin1(CommandLabels.at(row)));
-        head->SetFullText(ToQString(Document().IzvrsneKomande.Komande.at(row + 1).Opis));
-    }
 }
 
 void Form4::CompleteLook() {

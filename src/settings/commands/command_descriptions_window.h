@@ -27,20 +27,19 @@ protected:
 
 private:
     [[nodiscard]] QLayout* MakeDescriptions();
-    void AddRow(QGridLayout& grid, int row);
+    void AddRow(QGridLayout& grid, std::size_t command);
     [[nodiscard]] QLayout* MakeLook();
     [[nodiscard]] QLayout* MakeLookButtons();
     [[nodiscard]] QWidget* MakeExample();
     [[nodiscard]] QLayout* MakeCommands();
 
     void ShowDocument();
-    void ShowCommandTitles();
     /// Gives the look of a project that says nothing of it its usual values.
     void CompleteLook();
     void ChooseColor(const PictureButton& button, std::string CommandLook::*field);
     void ChooseFont();
 
-    FieldBinder* binder_ = nullptr;
+    FieldBinder* binder_;
     CommandLookSample* sample_ = nullptr;
 };
 

@@ -1,11 +1,11 @@
 #include "settings/commands/command_look_sample.h"
 
+#include "services/controls/labels.h"
 #include "services/look/theme.h"
 #include "services/values/font_spec.h"
 #include "services/values/twips.h"
 
 #include <QEvent>
-#include <QLabel>
 #include <QPainter>
 
 namespace tavmoor {
@@ -17,8 +17,7 @@ constexpr int BottomLine = PixelsOf(3240);
 } // namespace
 
 CommandLookSample::CommandLookSample(QWidget* parent)
-    : QWidget(parent), sample_(new QLabel(QStringLiteral(" Sample "), this)) {
-    sample_->setObjectName(QStringLiteral("Label11"));
+    : QWidget(parent), sample_(MakeLabel("Label11", u" Sample ", this)) {
     sample_->setProperty("look", QStringLiteral("sample"));
     setFixedHeight(BottomLine + theme::Gap);
 }

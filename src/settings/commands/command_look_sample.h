@@ -9,7 +9,7 @@ namespace tavmoor {
 struct FontSpec;
 
 /// The area in which the sample button `Label11` shows the look of the menu's buttons; what of it
-/// is a field of the project is bound to the sample. The sample grows upwards from a line that
+/// is a field of the project is bound to `Sample`. The sample grows upwards from a line that
 /// stays where it is.
 class CommandLookSample final : public QWidget {
     Q_OBJECT
@@ -17,6 +17,7 @@ class CommandLookSample final : public QWidget {
 public:
     explicit CommandLookSample(QWidget* parent);
 
+    [[nodiscard]] QLabel& Sample() const { return *sample_; }
     /// Bold, italic and underlined are not part of a project; they stay as they were chosen.
     void SetEffects(const FontSpec& font);
     /// The sample's effects, without a name and a size.

@@ -1,5 +1,7 @@
 #include "settings/commands/commands_panel.h"
 
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/value_label.h"
@@ -14,12 +16,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
 
 #include <array>
-#include <deque>
-#include <vector>
 
 namespace tavmoor {
 
@@ -49,48 +47,27 @@ constexpr std::array CommandRows{
 struct CommandColumn {
     const char* head; ///< object name of the head's label
     const char16_t* text;
-    const char* CommandRow::*control;
-    FieldForm form;
-    const char* key; ///< without the command's number
-    int place;       ///< in the grid, whose other columns are the browse and clear buttons
+    int place; ///< in the grid, whose other columns are the browse and clear buttons
     int stretch;
-    int leastWidth; ///< logical pixels; 0 leaves it to the control
+    int leastWidth;        ///< logical pixels; 0 leaves it to the control
+    bool centered = false; ///< its controls, below a head that is, too
 };
 
+constexpr CommandColumn TitleColumn{"Label75", u"Command title", 0, 4, 110};
+constexpr CommandColumn TargetColumn{"Label64", u"Target filename", 1, 5, 150};
 constexpr int BrowsePlace = 2;
+constexpr CommandColumn ParameterColumn{"Label65", u"Parameter", 3, 2, 80};
+constexpr CommandColumn TypeColumn{"Label15", u"Command type", 4, 0, 0};
+constexpr CommandColumn ClosesColumn{"Label69", u"This command closes autorun", 5, 0, 96, true};
 constexpr int ClearPlace = 6;
 
-constexpr std::array Columns{
-    CommandColumn{"Label75", u"Command title", &CommandRow::title, FieldForm::Text, "Opis", 0, 4,
-                  110},
-    CommandColumn{"Label64", u"Target filename", &CommandRow::target, FieldForm::Text, "Fajl", 1, 5,
-                  150},
-    CommandColumn{"Label65", u"Parameter", &CommandRow::parameter, FieldForm::Text, "Parametar", 3,
-                  2, 80},
-    CommandColumn{"Label15", u"Command type", &CommandRow::type, FieldForm::Choice, "Vrsta", 4, 0,
-                  0},
-    CommandColumn{"Label69", u"This command closes autorun", &CommandRow::closes,
-                  FieldForm::Checked, "Zatvara", 5, 0, 96},
-};
+constexpr std::array Columns{TitleColumn, TargetColumn, ParameterColumn, TypeColumn, ClosesColumn};
 
-constexpr std::string_view Section = "Izvrsne komande";
+using D = ProjectDocument;
 
-/// The table that ties the controls to the document: five fields of each row, and the exit caption.
-std::span<const FieldBinding> CommandBindings() {
-    static const std::vector<FieldBinding> bindings = [] {
-        static std::deque<std::string> keys;
-        std::vector<FieldBinding> table{{"Text30", FieldForm::Text, Section, "Izlaz"}};
-        for (std::size_t row = 0; row < CommandRows.size(); ++row) {
-            for (const CommandColumn& column : Columns) {
-                keys.push_back(column.key + std::to_string(row + 1));
-                table.push_back(
-                    {CommandRows.at(row).*column.control, column.form, Section, keys.back()});
-            }
-        }
-        return table;
-    }();
-    return bindings;
-}
+/// A field of a fixed command, to be taken at the command's number.
+template <auto Member>
+constexpr auto Command = At<&D::IzvrsneKomande, &CommandLook::Komande, Member>;
 
 constexpr ColorValue NoFolderColor = 255;
 constexpr ColorValue FolderColor = 6382708;
@@ -99,81 +76,48 @@ constexpr std::string_view MenuTitlesTemplate = "Nexus";
 constexpr int RowGap = 4;
 constexpr int ColumnGap = 6;
 
-QComboBox* MakeTypeBox(QWidget* parent) {
+QComboBox* MakeTypeBox(const char* objectName, QWidget* parent) {
     auto* box = new QComboBox(parent);
+    box->setObjectName(QString::fromLatin1(objectName));
     box->addItems({QStringLiteral("Send mail"), QStringLiteral("Visit web page"),
                    QStringLiteral("Run program"), QStringLiteral("Open file")});
     return box;
-}
-
-QLabel* MakeLabel(const char* objectName, const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(QString::fromLatin1(objectName));
-    return label;
-}
-
-QWidget* NewControl(const CommandColumn& column, const char* name, QWidget* parent) {
-    switch (column.form) {
-    case FieldForm::Choice:
-        return MakeTypeBox(parent);
-    case FieldForm::Checked:
-        return new QCheckBox(parent);
-    default:
-        return column.control == &CommandRow::target ? new PathBox(name, PathKind::File, parent)
-                                                     : new TextBox(name, parent);
-    }
-}
-
-QWidget* MakeControl(const CommandColumn& column, std::size_t row, QWidget* parent) {
-    const char* name = CommandRows.at(row).*column.control;
-    QWidget* control = NewControl(column, name, parent);
-    control->setObjectName(QString::fromLatin1(name));
-    control->setAccessibleName(
-        QStringLiteral("%1 %2").arg(QString::fromUtf16(column.text)).arg(row + 1));
-    return control;
 }
 
 } // namespace
 
 Frame4::Frame4(ProgramContext context, QWidget* parent)
     : Panel(context, "Frame4", u"Set commands to run target files", parent) {
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(RowGap);
-    auto* about = MakeLabel("Label63",
-                            QStringLiteral("Start any application or file located on your CD, open "
-                                           "Web locations, send e-mails. Read help for detail "
-                                           "instructions."),
-                            Body());
-    about->setProperty("look", QStringLiteral("note"));
-    about->setFont(theme::NoteFont());
-    about->setWordWrap(true);
+    auto* layout = MakeColumn(Body(), RowGap);
+    auto* about =
+        MakeParagraph("Label63",
+                      QStringLiteral("Start any application or file located on your CD, open Web "
+                                     "locations, send e-mails. Read help for detail instructions."),
+                      Body());
+    LookLikeNote(*about);
     layout->addWidget(about);
     folder_ = new ValueLabel("Label68", Body());
     folder_->setProperty("look", QString());
     folder_->setMinimumHeight(0);
     layout->addWidget(folder_);
-    auto* grid = new QGridLayout;
+    auto* grid = MakeGrid(nullptr, RowGap);
     grid->setHorizontalSpacing(ColumnGap);
-    grid->setVerticalSpacing(RowGap);
     AddHeads(*grid);
-    for (std::size_t row = 0; row < CommandRows.size(); ++row) {
-        AddRow(*grid, static_cast<int>(row));
+    for (std::size_t command = 1; command <= CommandRows.size(); ++command) {
+        AddRow(*grid, command);
     }
     layout->addLayout(grid);
     layout->addStretch(1);
     layout->addLayout(MakeExitRow());
     layout->addWidget(MakeDescriptionsButton(), 0, Qt::AlignLeft);
     layout->addWidget(MakeMenuTitlesRow());
-    Bind(CommandBindings());
 }
 
 void Frame4::AddHeads(QGridLayout& grid) {
     for (const CommandColumn& column : Columns) {
-        auto* head = MakeLabel(column.head, QString::fromUtf16(column.text), Body());
+        auto* head = MakeParagraph(column.head, QString::fromUtf16(column.text), Body());
         head->setFont(theme::NoteFont());
-        head->setWordWrap(true);
-        const auto side = column.form == FieldForm::Checked ? Qt::AlignHCenter : Qt::AlignLeft;
+        const auto side = column.centered ? Qt::AlignHCenter : Qt::AlignLeft;
         head->setAlignment(side | Qt::AlignBottom);
         grid.addWidget(head, 0, column.place);
         grid.setColumnStretch(column.place, column.stretch);
@@ -181,48 +125,59 @@ void Frame4::AddHeads(QGridLayout& grid) {
     }
 }
 
-void Frame4::AddRow(QGridLayout& grid, int row) {
-    const auto index = static_cast<std::size_t>(row);
-    const CommandRow& names = CommandRows.at(index);
-    const std::size_t command = index + 1;
+void Frame4::AddRow(QGridLayout& grid, std::size_t command) {
+    const CommandRow& names = CommandRows.at(command - 1);
+    const int line = static_cast<int>(command);
+    const auto add = [&](const CommandColumn& column, QWidget* control) {
+        control->setAccessibleName(
+            QStringLiteral("%1 %2").arg(QString::fromUtf16(column.text)).arg(command));
+        grid.addWidget(control, line, column.place,
+                       column.centered ? Qt::AlignCenter : Qt::Alignment());
+    };
     const auto addButton = [&](const ButtonDescription& description, int place, auto action) {
         auto* button = new PictureButton(description, Body());
         connect(button, &QAbstractButton::clicked, this, action);
-        grid.addWidget(button, row + 1, place);
+        grid.addWidget(button, line, place);
     };
     // Made from left to right, as the tab key goes.
-    for (const CommandColumn& column : Columns) {
-        auto* control = MakeControl(column, index, Body());
-        const bool centred = column.form == FieldForm::Checked;
-        grid.addWidget(control, row + 1, column.place, centred ? Qt::AlignCenter : Qt::Alignment());
-        if (auto* target = qobject_cast<PathBox*>(control)) {
-            connect(target, &PathBox::PathGiven, this, [this, command](const QString& path) {
-                SetTarget(command, DiscTarget(FromQString(path), Document().CdFolder()));
-            });
-            addButton(
-                {names.browse, "browse", u"", u"Choose files to run/open...", ButtonLook::Icon},
-                BrowsePlace, [this, command] { BrowseTarget(command); });
-        }
-    }
+    auto* title = new TextBox(names.title, Body());
+    Binder().Bind(*title, Command<&FixedCommand::Opis>[command]);
+    add(TitleColumn, title);
+    auto* target = new PathBox(names.target, PathKind::File, Body());
+    Binder().Bind(*target, Command<&FixedCommand::Fajl>[command]);
+    add(TargetColumn, target);
+    connect(target, &PathBox::PathGiven, this, [this, command](const QString& path) {
+        SetTarget(command, DiscTarget(FromQString(path), Document().CdFolder()));
+    });
+    addButton({names.browse, "browse", u"", u"Choose files to run/open...", ButtonLook::Icon},
+              BrowsePlace, [this, command] { BrowseTarget(command); });
+    auto* parameter = new TextBox(names.parameter, Body());
+    Binder().Bind(*parameter, Command<&FixedCommand::Parametar>[command]);
+    add(ParameterColumn, parameter);
+    auto* type = MakeTypeBox(names.type, Body());
+    Binder().Bind(*type, Command<&FixedCommand::Vrsta>[command]);
+    add(TypeColumn, type);
+    auto* closes = new QCheckBox(Body());
+    closes->setObjectName(QString::fromLatin1(names.closes));
+    Binder().Bind(*closes, Command<&FixedCommand::Zatvara>[command]);
+    add(ClosesColumn, closes);
     addButton({names.clear, "remove", u"", u"Remove command/clear", ButtonLook::Icon}, ClearPlace,
               [this, command] { ClearCommand(command); });
 }
 
 QLayout* Frame4::MakeExitRow() {
     constexpr int CaptionWidth = 180;
-    auto* row = new QHBoxLayout;
-    row->setSpacing(theme::Gap);
-    auto* label = new QLabel(QStringLiteral("Exit b&utton caption"), Body());
+    auto* row = MakeRow();
     auto* caption = new TextBox("Text30", Body());
     caption->setFixedWidth(CaptionWidth);
-    label->setBuddy(caption);
+    Binder().Bind(*caption, At<&D::IzvrsneKomande, &CommandLook::Izlaz>);
     auto* more =
         new PictureButton({"Command56", "more_commands",
                            u"If y&ou need more commands/buttons click here", u"", ButtonLook::Link},
                           Body());
     EnableWhenStanding(*more, Windows(), WindowName::Form10);
     connect(more, &QAbstractButton::clicked, this, &Frame4::OpenAdditionalCommands);
-    row->addWidget(label);
+    row->addWidget(MakeCaption(u"Exit b&utton caption", caption));
     row->addWidget(caption);
     row->addStretch(1);
     row->addWidget(more);
@@ -248,8 +203,7 @@ QWidget* Frame4::MakeMenuTitlesRow() {
     EnableWhenStanding(*menuTitles_, Windows(), WindowName::Form11);
     connect(menuTitles_, &QAbstractButton::clicked, this,
             [this] { Windows().OpenFromMain(WindowName::Form11); });
-    menuTitlesNote_ =
-        MakeLabel("Label22", QStringLiteral("<-- only if supported in selected template"), row);
+    menuTitlesNote_ = MakeLabel("Label22", u"<-- only if supported in selected template", row);
     menuTitlesNote_->setProperty("look", QStringLiteral("note"));
     row->setFixedHeight(menuTitles_->sizeHint().height());
     return row;

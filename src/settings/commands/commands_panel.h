@@ -24,7 +24,7 @@ public:
 
 private:
     void AddHeads(QGridLayout& grid);
-    void AddRow(QGridLayout& grid, int row);
+    void AddRow(QGridLayout& grid, std::size_t command);
     [[nodiscard]] QLayout* MakeExitRow();
     [[nodiscard]] QWidget* MakeMenuTitlesRow();
     [[nodiscard]] PictureButton* MakeDescriptionsButton();

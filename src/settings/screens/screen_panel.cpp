@@ -2,6 +2,7 @@
 
 #include "services/controls/color_box.h"
 #include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/spin_bar.h"
 #include "services/controls/text_boxes.h"
@@ -16,9 +17,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QRadioButton>
 
 namespace tavmoor {
@@ -37,14 +36,9 @@ constexpr int FontSizeWidth = 56;
 constexpr int DimensionsWidth = 300;
 constexpr int LineGap = 6;
 
-QHBoxLayout* MakeRow() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(theme::Gap);
-    return row;
-}
-
-QVBoxLayout* MakeLines(QWidget* owner) {
-    auto* lines = new QVBoxLayout(owner);
+/// The lines of a group, within its frame.
+QVBoxLayout* MakeGroupLines(QGroupBox* group) {
+    auto* lines = new QVBoxLayout(group);
     lines->setSpacing(LineGap);
     return lines;
 }
@@ -53,14 +47,14 @@ QVBoxLayout* MakeLines(QWidget* owner) {
 
 ScreenPanel::ScreenPanel(const ScreenPanelDescription& description, ProgramContext context,
                          QWidget* parent)
-    : Panel(context, description.frame, description.heading, parent), description_(description) {
-    auto* lines = MakeLines(Body());
-    lines->setContentsMargins(0, 0, 0, 0);
+    : Panel(context, description.frame, description.heading, parent), description_(description),
+      fields_(description.fields) {
+    auto* lines = MakeColumn(Body(), LineGap);
     lines->addLayout(MakeSwitches());
     lines->addLayout(MakeTime());
     auto* groups = MakeRow();
     groups->addWidget(MakeTextGroup(), 1);
-    auto* right = MakeLines(nullptr);
+    auto* right = MakeColumn(nullptr, LineGap);
     right->addWidget(MakePictureGroup());
     right->addStretch(1);
     right->addLayout(MakeColor());
@@ -68,35 +62,26 @@ ScreenPanel::ScreenPanel(const ScreenPanelDescription& description, ProgramConte
     groups->addLayout(right, 1);
     lines->addLayout(groups, 1);
     lines->addWidget(MakeDimensions());
-    FieldBinder& binder = Bind(table_);
     // The labels show what their bars spin.
-    connect(&binder, &FieldBinder::Stored, this, [this](const QString& control) {
-        if (findChild<SpinBar*>(control) != nullptr) {
+    connect(&Binder(), &FieldBinder::Stored, this, [this](QWidget* control) {
+        if (qobject_cast<SpinBar*>(control) != nullptr) {
             ShowDocument();
         }
     });
 }
 
-ScreenSpec& ScreenPanel::Screen() const {
-    return Document().*description_.screen;
-}
-
-void ScreenPanel::Tie(const char* control, FieldForm form, std::string_view key, int value) {
-    table_.push_back({control, form, description_.section, key, value});
-}
-
-QWidget* ScreenPanel::MakeCheckBox(const NamedText& text, std::string_view key) {
+QWidget* ScreenPanel::MakeCheckBox(const NamedText& text, FieldOf<bool> field) {
     auto* check = new QCheckBox(QString::fromUtf16(text.text), Body());
     check->setObjectName(QString::fromLatin1(text.control));
-    Tie(text.control, FieldForm::Checked, key);
+    Binder().Bind(*check, field);
     return check;
 }
 
 QLayout* ScreenPanel::MakeSwitches() {
     auto* row = MakeRow();
-    row->addWidget(MakeCheckBox(description_.show, "Prikazi"));
+    row->addWidget(MakeCheckBox(description_.show, fields_.shown));
     row->addSpacing(theme::Margin);
-    row->addWidget(MakeCheckBox(description_.click, description_.clickKey));
+    row->addWidget(MakeCheckBox(description_.click, fields_.clickThrough));
     row->addStretch(1);
     return row;
 }
@@ -105,9 +90,8 @@ QLayout* ScreenPanel::MakeTime() {
     time_ = new TextBox(description_.time.control, Body());
     time_->setFixedWidth(TimeWidth);
     time_->installEventFilter(this);
-    Tie(description_.time.control, FieldForm::Text, "Vreme");
-    timeUnit_ = new QLabel(QStringLiteral("seconds"), Body());
-    timeUnit_->setObjectName(QString::fromLatin1(description_.timeUnit));
+    Binder().Bind(*time_, fields_.time);
+    timeUnit_ = MakeLabel(description_.timeUnit, u"seconds", Body());
     auto* row = MakeRow();
     row->addWidget(MakeCaption(description_.time.text, time_));
     row->addWidget(time_);
@@ -118,22 +102,22 @@ QLayout* ScreenPanel::MakeTime() {
 
 QWidget* ScreenPanel::MakeTextGroup() {
     auto* group = new QGroupBox(QString::fromUtf16(description_.text.text), Body());
-    auto* lines = MakeLines(group);
+    auto* lines = MakeGroupLines(group);
     auto* text = new MemoBox(description_.text.control, group);
     text->setToolTip(QStringLiteral("DoubleClick to set text color more precise..."));
     text->setAccessibleName(group->title());
-    Tie(description_.text.control, FieldForm::Text, description_.textKey);
+    Binder().Bind(*text, fields_.text);
     lines->addWidget(text, 1);
     lines->addLayout(MakeTextRow(*text));
     lines->addLayout(MakeStyleRow());
-    lines->addLayout(MakePosition(description_.textPosition, "Polozajteksta"));
+    lines->addLayout(MakePosition(description_.textPosition, fields_.textPosition));
     return group;
 }
 
 QLayout* ScreenPanel::MakeTextRow(MemoBox& text) {
     auto* color = new ColorPickButton(
         {description_.textColor, "palette", u"", u"Change font color", ButtonLook::Icon}, Context(),
-        text, Screen().Bojateksta, Body());
+        text, fields_.textColor.In(Document()), Body());
     connect(color, &ColorPickButton::Changed, this, &ScreenPanel::ShowDocument);
     auto* font = new PictureButton(
         {description_.fontButton, "font", u"", u"Set font for the text above", ButtonLook::Icon},
@@ -144,9 +128,9 @@ QLayout* ScreenPanel::MakeTextRow(MemoBox& text) {
     auto* size = new ValueLabel(description_.fontSize, Body());
     size->setAccessibleName(QStringLiteral("Font size"));
     size->setFixedWidth(FontSizeWidth);
-    Tie(description_.fontName, FieldForm::Shown, "Font");
-    Tie(description_.fontName, FieldForm::TextColor, "Bojateksta");
-    Tie(description_.fontSize, FieldForm::Shown, "Fontvelicina");
+    Binder().Bind(*name, fields_.font);
+    Binder().BindTextColor(*name, fields_.textColor);
+    Binder().Bind(*size, fields_.fontSize);
     auto* row = MakeRow();
     row->addWidget(color);
     row->addWidget(font);
@@ -157,20 +141,20 @@ QLayout* ScreenPanel::MakeTextRow(MemoBox& text) {
 
 QLayout* ScreenPanel::MakeStyleRow() {
     auto* row = MakeRow();
-    row->addWidget(MakeCheckBox(description_.bold, "Bold"));
-    row->addWidget(MakeCheckBox(description_.italic, "Italic"));
-    row->addWidget(MakeCheckBox(description_.underline, "Underline"));
+    row->addWidget(MakeCheckBox(description_.bold, fields_.bold));
+    row->addWidget(MakeCheckBox(description_.italic, fields_.italic));
+    row->addWidget(MakeCheckBox(description_.underline, fields_.underline));
     row->addStretch(1);
     return row;
 }
 
-QLayout* ScreenPanel::MakePosition(const NamedText& text, std::string_view key) {
+QLayout* ScreenPanel::MakePosition(const NamedText& text, FieldOf<std::string> field) {
     auto* combo = new QComboBox(Body());
     combo->setObjectName(QString::fromLatin1(text.control));
     for (const char16_t* position : Positions) {
         combo->addItem(QString::fromUtf16(position));
     }
-    Tie(text.control, FieldForm::Choice, key);
+    Binder().Bind(*combo, field);
     auto* row = MakeRow();
     row->addWidget(MakeCaption(text.text, combo));
     row->addWidget(combo, 1);
@@ -179,12 +163,12 @@ QLayout* ScreenPanel::MakePosition(const NamedText& text, std::string_view key) 
 
 QWidget* ScreenPanel::MakePictureGroup() {
     auto* group = new QGroupBox(QStringLiteral("Choose picture"), Body());
-    auto* lines = MakeLines(group);
-    auto* picture = new PictureField(description_.picture, Context(), Screen().Slika, group);
+    auto* lines = MakeGroupLines(group);
+    auto* picture =
+        new PictureField(description_.picture, Context(), Binder(), fields_.picture, group);
     connect(picture, &PictureField::Changed, this, &ScreenPanel::ShowDocument);
-    Tie(description_.picture.label, FieldForm::Shown, "Slika");
     lines->addWidget(picture);
-    lines->addLayout(MakePosition(description_.picturePosition, "Polozajslike"));
+    lines->addLayout(MakePosition(description_.picturePosition, fields_.picturePosition));
     lines->addWidget(MakeShowChoice());
     return group;
 }
@@ -192,11 +176,11 @@ QWidget* ScreenPanel::MakePictureGroup() {
 QWidget* ScreenPanel::MakeShowChoice() {
     auto* group = new QGroupBox(QStringLiteral("Show"), Body());
     auto* row = new QHBoxLayout(group);
-    int value = 0;
+    std::int16_t value = 0;
     for (const NamedText& option : description_.options) {
         auto* button = new QRadioButton(QString::fromUtf16(option.text), group);
         button->setObjectName(QString::fromLatin1(option.control));
-        Tie(option.control, FieldForm::Option, "Opcija", ++value);
+        Binder().BindOption(*button, fields_.option, ++value);
         row->addWidget(button);
     }
     return group;
@@ -204,11 +188,11 @@ QWidget* ScreenPanel::MakeShowChoice() {
 
 QLayout* ScreenPanel::MakeColor() {
     auto* area = new ColorBox(description_.color.control, u"", description_.colorTooltip, Body());
+    Binder().Bind(*area, fields_.backColor);
     auto* button = new ColorPickButton(
         {description_.colorButton, "palette", u"", description_.colorTooltip, ButtonLook::Icon},
-        Context(), *area, Screen().Bojaprozora, Body());
+        Context(), *area, fields_.backColor.In(Document()), Body());
     connect(button, &ColorPickButton::Changed, this, &ScreenPanel::ShowDocument);
-    Tie(description_.color.control, FieldForm::Color, "Bojaprozora");
     auto* row = MakeRow();
     row->addWidget(MakeCaption(description_.color.text, area));
     row->addWidget(area);
@@ -219,25 +203,25 @@ QLayout* ScreenPanel::MakeColor() {
 
 QWidget* ScreenPanel::MakeDimensions() {
     auto* group = new QGroupBox(Body());
-    auto* heading = new QLabel(QString::fromUtf16(description_.dimensions.text), group);
-    heading->setObjectName(QString::fromLatin1(description_.dimensions.control));
-    heading->setWordWrap(true);
+    auto* heading = MakeParagraph(description_.dimensions.control,
+                                  QString::fromUtf16(description_.dimensions.text), group);
     heading->setFixedWidth(DimensionsWidth);
-    auto* row = MakeRow();
+    auto* row = new QHBoxLayout(group);
+    row->setSpacing(theme::Gap);
     row->addWidget(heading);
-    AddDimension(*row, description_.height);
-    AddDimension(*row, description_.width);
+    AddDimension(*row, description_.height, fields_.height);
+    AddDimension(*row, description_.width, fields_.width);
     row->addStretch(1);
-    group->setLayout(row);
     return group;
 }
 
-void ScreenPanel::AddDimension(QHBoxLayout& row, const ScreenDimension& dimension) {
+void ScreenPanel::AddDimension(QHBoxLayout& row, const ScreenDimension& dimension,
+                               FieldOf<std::int16_t> field) {
     auto* bar = new SpinBar(dimension.bar.control, dimension.most, PageStep, Body());
     auto* shown = new ValueLabel(dimension.label, Body());
     shown->setFixedWidth(FontSizeWidth);
-    Tie(dimension.bar.control, FieldForm::Number, dimension.key);
-    Tie(dimension.label, FieldForm::Shown, dimension.key);
+    Binder().Bind(*bar, field);
+    Binder().Bind(*shown, field);
     row.addSpacing(theme::Margin);
     row.addWidget(MakeCaption(dimension.bar.text, bar));
     row.addWidget(shown);
@@ -245,25 +229,25 @@ void ScreenPanel::AddDimension(QHBoxLayout& row, const ScreenDimension& dimensio
 }
 
 void ScreenPanel::ChooseFont() {
-    ScreenSpec& screen = Screen();
-    const PickedFont current{{.name = screen.Font,
-                              .size = screen.Fontvelicina,
-                              .bold = screen.Bold,
-                              .italic = screen.Italic,
-                              .underline = screen.Underline},
-                             screen.Bojateksta};
+    ProjectDocument& document = Document();
+    const PickedFont current{{.name = fields_.font.In(document),
+                              .size = fields_.fontSize.In(document),
+                              .bold = fields_.bold.In(document),
+                              .italic = fields_.italic.In(document),
+                              .underline = fields_.underline.In(document)},
+                             fields_.textColor.In(document)};
     const auto picked = PickFont(*this, current, "Choose font...");
     if (!picked) {
         return;
     }
     if (!picked->font.name.empty()) {
-        screen.Font = picked->font.name;
+        fields_.font.In(document) = picked->font.name;
     }
-    screen.Fontvelicina = picked->font.size;
-    screen.Bold = picked->font.bold;
-    screen.Italic = picked->font.italic;
-    screen.Underline = picked->font.underline;
-    screen.Bojateksta = picked->color;
+    fields_.fontSize.In(document) = picked->font.size;
+    fields_.bold.In(document) = picked->font.bold;
+    fields_.italic.In(document) = picked->font.italic;
+    fields_.underline.In(document) = picked->font.underline;
+    fields_.textColor.In(document) = picked->color;
     ShowDocument();
 }
 
@@ -284,7 +268,7 @@ void ScreenPanel::CheckTime() {
         // Stays for good, so that the limit is known from now on.
         timeUnit_->setText(QStringLiteral("seconds(60 is maximum)"));
     }
-    Screen().Vreme = time.text;
+    fields_.time.In(Document()) = time.text;
     const bool replaced = FromQString(time_->text()) != time.text;
     ShowDocument();
     if (replaced) {

@@ -2,19 +2,21 @@
 
 #include "settings/shared/panel.h"
 
-#include <vector>
+#include <cstdint>
+#include <string>
 
 class QHBoxLayout;
 class QLabel;
 class QLayout;
-class QLineEdit;
 
 namespace tavmoor {
 
 struct ScreenPanelDescription;
 struct ScreenDimension;
+struct ScreenFields;
 struct NamedText;
 class MemoBox;
+class TextBox;
 
 /// `Frame9` and `Frame12`, the splash and the exit screen: one panel with two descriptions.
 class ScreenPanel final : public Panel {
@@ -37,18 +39,17 @@ private:
     QWidget* MakeDimensions();
     QWidget* MakeShowChoice();
     QLayout* MakeColor();
-    void AddDimension(QHBoxLayout& row, const ScreenDimension& dimension);
-    QWidget* MakeCheckBox(const NamedText& text, std::string_view key);
-    QLayout* MakePosition(const NamedText& text, std::string_view key);
+    void AddDimension(QHBoxLayout& row, const ScreenDimension& dimension,
+                      FieldOf<std::int16_t> field);
+    QWidget* MakeCheckBox(const NamedText& text, FieldOf<bool> field);
+    QLayout* MakePosition(const NamedText& text, FieldOf<std::string> field);
 
-    void Tie(const char* control, FieldForm form, std::string_view key, int value = 0);
     void ChooseFont();
     void CheckTime();
-    [[nodiscard]] ScreenSpec& Screen() const;
 
     const ScreenPanelDescription& description_;
-    std::vector<FieldBinding> table_;
-    QLineEdit* time_ = nullptr;
+    const ScreenFields& fields_;
+    TextBox* time_ = nullptr;
     QLabel* timeUnit_ = nullptr;
 };
 

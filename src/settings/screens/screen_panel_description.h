@@ -1,10 +1,11 @@
 #pragma once
 
-#include "core/document/project_document.h"
+#include "core/document/field_access.h"
 #include "services/fields/picture_field.h"
 
 #include <array>
-#include <string_view>
+#include <cstdint>
+#include <string>
 
 namespace tavmoor {
 
@@ -18,18 +19,35 @@ struct NamedText {
 struct ScreenDimension {
     NamedText bar;
     const char* label;
-    std::string_view key;
     int most; ///< pixels
+};
+
+/// The fields of one of the two screens.
+struct ScreenFields {
+    FieldOf<bool> shown;
+    FieldOf<bool> clickThrough;
+    FieldOf<std::string> text;
+    FieldOf<std::string> font;
+    FieldOf<std::string> fontSize;
+    FieldOf<bool> bold;
+    FieldOf<bool> italic;
+    FieldOf<bool> underline;
+    FieldOf<ColorValue> textColor;
+    FieldOf<std::string> picture;
+    FieldOf<std::int16_t> option;
+    FieldOf<ColorValue> backColor;
+    FieldOf<std::string> time;
+    FieldOf<std::int16_t> height;
+    FieldOf<std::int16_t> width;
+    FieldOf<std::string> textPosition;
+    FieldOf<std::string> picturePosition;
 };
 
 /// What differs between the two panels. Texts as the user reads them, but for mnemonics.
 struct ScreenPanelDescription {
     const char* frame;
     const char16_t* heading;
-    ScreenSpec ProjectDocument::*screen;
-    std::string_view section;
-    std::string_view clickKey;
-    std::string_view textKey;
+    ScreenFields fields;
 
     NamedText show;
     NamedText click;

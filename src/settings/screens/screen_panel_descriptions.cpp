@@ -9,15 +9,33 @@ namespace {
 constexpr int MostHeight = 768;
 constexpr int MostWidth = 1024;
 
+template <ScreenSpec ProjectDocument::*Screen>
+constexpr ScreenFields FieldsOf{
+    .shown = At<Screen, &ScreenSpec::Prikazi>,
+    .clickThrough = At<Screen, &ScreenSpec::ClickThrough>,
+    .text = At<Screen, &ScreenSpec::Tekst>,
+    .font = At<Screen, &ScreenSpec::Font>,
+    .fontSize = At<Screen, &ScreenSpec::Fontvelicina>,
+    .bold = At<Screen, &ScreenSpec::Bold>,
+    .italic = At<Screen, &ScreenSpec::Italic>,
+    .underline = At<Screen, &ScreenSpec::Underline>,
+    .textColor = At<Screen, &ScreenSpec::Bojateksta>,
+    .picture = At<Screen, &ScreenSpec::Slika>,
+    .option = At<Screen, &ScreenSpec::Opcija>,
+    .backColor = At<Screen, &ScreenSpec::Bojaprozora>,
+    .time = At<Screen, &ScreenSpec::Vreme>,
+    .height = At<Screen, &ScreenSpec::Visina>,
+    .width = At<Screen, &ScreenSpec::Sirina>,
+    .textPosition = At<Screen, &ScreenSpec::Polozajteksta>,
+    .picturePosition = At<Screen, &ScreenSpec::Polozajslike>,
+};
+
 } // namespace
 
 const ScreenPanelDescription SplashScreenPanel{
     .frame = "Frame9",
     .heading = u"Splash screen settings",
-    .screen = &ProjectDocument::Uvod,
-    .section = "Uvod",
-    .clickKey = "ClickThrough",
-    .textKey = "Poruka",
+    .fields = FieldsOf<&ProjectDocument::Uvod>,
     .show = {"Check1", u"&Display splash screen"},
     .click = {"Check18", u"E&nable user to click on splash screen to skip it"},
     .text = {"Text6", u"Insert splash screen text"},
@@ -46,18 +64,15 @@ const ScreenPanelDescription SplashScreenPanel{
     .timeUnit = "Label47",
     .dimensions = {"Label41",
                    u"Change splash screen dimensions (pixels) - If template supports it"},
-    .height = {{"VScroll1", u"Height"}, "Label42", "Visina", MostHeight},
-    .width = {{"HScroll3", u"Width"}, "Label57", "Sirina", MostWidth},
+    .height = {{"VScroll1", u"Height"}, "Label42", MostHeight},
+    .width = {{"HScroll3", u"Width"}, "Label57", MostWidth},
     .textPosition = {"Combo9", u"Text position"},
     .picturePosition = {"Combo10", u"Picture position"}};
 
 const ScreenPanelDescription ExitScreenPanel{
     .frame = "Frame12",
     .heading = u"Exit window settings",
-    .screen = &ProjectDocument::Izlaz,
-    .section = "Izlaz",
-    .clickKey = "ClickThroughExit",
-    .textKey = "Tekst",
+    .fields = FieldsOf<&ProjectDocument::Izlaz>,
     .show = {"Check4", u"&Display exit window"},
     .click = {"Check17", u"E&nable user to click on exit screen to close it"},
     .text = {"Text8", u"Insert splash screen text"},
@@ -85,8 +100,8 @@ const ScreenPanelDescription ExitScreenPanel{
     .time = {"Text9", u"Display exit window for"},
     .timeUnit = "Label55",
     .dimensions = {"Label56", u"Change exit window dimensions (pixels) - If template supports it"},
-    .height = {{"VScroll2", u"Height"}, "Label94", "Visina", MostHeight},
-    .width = {{"HScroll4", u"Width"}, "Label92", "Sirina", MostWidth},
+    .height = {{"VScroll2", u"Height"}, "Label94", MostHeight},
+    .width = {{"HScroll4", u"Width"}, "Label92", MostWidth},
     .textPosition = {"Combo7", u"Text position"},
     .picturePosition = {"Combo8", u"Picture position"}};
 

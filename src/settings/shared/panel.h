@@ -22,7 +22,7 @@ enum class PanelName : std::uint8_t {
 };
 inline constexpr std::size_t PanelCount = 6;
 
-/// The base of the panels: a heading, a body for the panel's own layout, and the table that ties
+/// The base of the panels: a heading, a body for the panel's own layout, and the binder that ties
 /// its controls to the document. The document is the truth; a panel shows it and changes it.
 class Panel : public QFrame {
     Q_OBJECT
@@ -40,13 +40,13 @@ protected:
     [[nodiscard]] ProgramContext Context() const { return context_; }
     [[nodiscard]] QWidget* Body() const { return body_; }
 
-    /// Ties the panel's controls, which stand by now, to their fields; input is stored at once.
-    FieldBinder& Bind(std::span<const FieldBinding> table);
+    /// Ties the panel's controls to their fields; input is stored at once.
+    [[nodiscard]] FieldBinder& Binder() const { return *binder_; }
 
 private:
     ProgramContext context_;
     QWidget* body_;
-    FieldBinder* binder_ = nullptr;
+    FieldBinder* binder_;
 };
 
 } // namespace tavmoor

@@ -1,123 +1,122 @@
 #include "settings/steps/autorun_info_panel.h"
 
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/text_boxes.h"
 #include "services/controls/value_label.h"
 #include "services/fields/color_pick_button.h"
 #include "services/fields/field_pickers.h"
-#include "services/fields/field_value.h"
 #include "services/fields/logo_text_style.h"
 #include "services/fields/picture_field.h"
-#include "services/look/theme.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
-#include <QLabel>
 
-#include <array>
+#include <optional>
 
 namespace tavmoor {
 
-/// Where the style of a text's font is kept.
-enum class StyleKept : std::uint8_t { No, Words, Flags };
+/// Where the style of a text's font is kept as flags.
+struct StyleFlags {
+    FieldOf<bool> bold;
+    FieldOf<bool> italic;
+};
 
-/// A text of the panel. All keys stand in MainSection but that of a back colour.
+/// A text of the panel.
 struct MainTextRow {
     const char16_t* caption;
     const char* box;
-    std::string_view key;
+    FieldOf<std::string> text;
     bool severalLines = false;
-    FieldForm colorForm =
-        FieldForm::TextColor; ///< what a double click changes: TextColor or BackColor
-    std::string_view colorKey;
+    bool backColor = false; ///< a double click changes the back colour, else the text colour
+    FieldOf<ColorValue> color;
     const char* colorButton;
     const char* fontButton;
     const char16_t* fontTooltip;
     const char* fontLabel;
-    std::string_view fontKey;
+    FieldOf<std::string> font;
     const char* sizeLabel;
-    std::string_view sizeKey;
-    StyleKept style = StyleKept::No;
-    std::string_view boldKey{};   ///< with StyleKept::Flags
-    std::string_view italicKey{}; ///< with StyleKept::Flags
-    std::string_view
-        fontColorKey{}; ///< the text colour that comes from the font dialog, "" for none
+    FieldOf<std::string> size;
+    bool styleInWords = false; ///< the one text whose font's style is kept in `Stil` and `Efekti`
+    std::optional<StyleFlags> style{};
+    std::optional<FieldOf<ColorValue>>
+        fontColor{}; ///< the text colour, where the font dialog has it
 };
 
 namespace {
 
-constexpr std::string_view MainSection = "Osnovni podaci";
-constexpr std::string_view BackColorSection = "Izvrsne komande";
+using T = MainTexts;
+
+template <auto Member>
+constexpr auto Main = At<&ProjectDocument::OsnovniPodaci, Member>;
 
 constexpr MainTextRow LogoText{.caption = u"Autorun &Logo text",
                                .box = "Text2",
-                               .key = "Logotekst",
-                               .colorKey = "Logotekstboja",
+                               .text = Main<&T::Logotekst>,
+                               .color = Main<&T::Logotekstboja>,
                                .colorButton = "Text2Color",
                                .fontButton = "Command13",
                                .fontTooltip = u"Set font for the Autorun Logo text",
                                .fontLabel = "Label21",
-                               .fontKey = "Font",
+                               .font = Main<&T::Font>,
                                .sizeLabel = "Label3",
-                               .sizeKey = "Velicina",
-                               .style = StyleKept::Words};
+                               .size = Main<&T::Velicina>,
+                               .styleInWords = true};
 
 constexpr MainTextRow MainTitle{.caption = u"Mai&n Autorun title",
                                 .box = "Text3",
-                                .key = "Glavninaslov",
-                                .colorKey = "GlnaslovBoja",
+                                .text = Main<&T::Glavninaslov>,
+                                .color = Main<&T::GlnaslovBoja>,
                                 .colorButton = "Text3Color",
                                 .fontButton = "Command47",
                                 .fontTooltip = u"Set font for the Main Autorun title",
                                 .fontLabel = "Label6",
-                                .fontKey = "GlavninaslovFont",
+                                .font = Main<&T::GlavninaslovFont>,
                                 .sizeLabel = "Label7",
-                                .sizeKey = "GlnaslovVel"};
+                                .size = Main<&T::GlnaslovVel>};
 
-constexpr MainTextRow DescriptionTitle{.caption = u"C&D description title",
-                                       .box = "Text4",
-                                       .key = "GlavniOpisnaslov",
-                                       .colorKey = "GlavniOpisnaslovBoja",
-                                       .colorButton = "Text4Color",
-                                       .fontButton = "Command48",
-                                       .fontTooltip = u"Set font for the CD description text",
-                                       .fontLabel = "Label45",
-                                       .fontKey = "GlavniOpisnaslovFont",
-                                       .sizeLabel = "Label4",
-                                       .sizeKey = "GlavniOpisnaslovVel",
-                                       .style = StyleKept::Flags,
-                                       .boldKey = "GlavniOpisnaslovBold",
-                                       .italicKey = "GlavniOpisnaslovItalic"};
+constexpr MainTextRow DescriptionTitle{
+    .caption = u"C&D description title",
+    .box = "Text4",
+    .text = Main<&T::GlavniOpisnaslov>,
+    .color = Main<&T::GlavniOpisnaslovBoja>,
+    .colorButton = "Text4Color",
+    .fontButton = "Command48",
+    .fontTooltip = u"Set font for the CD description text",
+    .fontLabel = "Label45",
+    .font = Main<&T::GlavniOpisnaslovFont>,
+    .sizeLabel = "Label4",
+    .size = Main<&T::GlavniOpisnaslovVel>,
+    .style = StyleFlags{Main<&T::GlavniOpisnaslovBold>, Main<&T::GlavniOpisnaslovItalic>}};
 
-constexpr MainTextRow Description{.caption = u"Description text, font, bac&kground and fore color",
-                                  .box = "Text5",
-                                  .key = "GlavniOpis",
-                                  .severalLines = true,
-                                  .colorForm = FieldForm::BackColor,
-                                  .colorKey = "Boja pozadine",
-                                  .colorButton = "Text5Color",
-                                  .fontButton = "Command49",
-                                  .fontTooltip = u"Set font for the description text",
-                                  .fontLabel = "Label8",
-                                  .fontKey = "GlavniOpisFont",
-                                  .sizeLabel = "Label10",
-                                  .sizeKey = "GlavniOpisVel",
-                                  .style = StyleKept::Flags,
-                                  .boldKey = "GlavniOpisBold",
-                                  .italicKey = "GlavniOpisItalic",
-                                  .fontColorKey = "GlavniOpisBoja"};
+constexpr MainTextRow Description{
+    .caption = u"Description text, font, bac&kground and fore color",
+    .box = "Text5",
+    .text = Main<&T::GlavniOpis>,
+    .severalLines = true,
+    .backColor = true,
+    .color = At<&ProjectDocument::IzvrsneKomande, &CommandLook::Bojapozadine>,
+    .colorButton = "Text5Color",
+    .fontButton = "Command49",
+    .fontTooltip = u"Set font for the description text",
+    .fontLabel = "Label8",
+    .font = Main<&T::GlavniOpisFont>,
+    .sizeLabel = "Label10",
+    .size = Main<&T::GlavniOpisVel>,
+    .style = StyleFlags{Main<&T::GlavniOpisBold>, Main<&T::GlavniOpisItalic>},
+    .fontColor = Main<&T::GlavniOpisBoja>};
 
 constexpr MainTextRow VerticalText{.caption = u"&Vertical text",
                                    .box = "Text31",
-                                   .key = "Vertekst",
-                                   .colorKey = "Vertfontboja",
+                                   .text = Main<&T::Vertekst>,
+                                   .color = Main<&T::Vertfontboja>,
                                    .colorButton = "Text31Color",
                                    .fontButton = "Command25",
                                    .fontTooltip = u"Set font for the vertical text",
                                    .fontLabel = "Label77",
-                                   .fontKey = "Vertfont",
+                                   .font = Main<&T::Vertfont>,
                                    .sizeLabel = "Label86",
-                                   .sizeKey = "Vertfontvelicina"};
+                                   .size = Main<&T::Vertfontvelicina>};
 
 constexpr PictureFieldDescription LogoPicture{.label = "Label16",
                                               .meaning = u"Logo picture",
@@ -140,9 +139,7 @@ constexpr int LineGap = 6;
 } // namespace
 
 Frame3::Frame3(ProgramContext context, QWidget* parent)
-    : Panel(context, "Frame3", u"Autorun Info", parent), grid_(new QGridLayout(Body())) {
-    grid_->setContentsMargins(0, 0, 0, 0);
-    grid_->setHorizontalSpacing(theme::Gap);
+    : Panel(context, "Frame3", u"Autorun Info", parent), grid_(MakeGrid(Body())) {
     grid_->setVerticalSpacing(LineGap);
     grid_->setColumnMinimumWidth(Column::Caption, CaptionWidth);
     grid_->setColumnStretch(Column::Box, 1);
@@ -156,18 +153,12 @@ Frame3::Frame3(ProgramContext context, QWidget* parent)
     AddText(Description);
     AddTransparency();
     AddText(VerticalText);
-    Bind(table_);
-}
-
-std::string& Frame3::Text(std::string_view key) const {
-    return FieldValue<std::string>(Document(), MainSection, key);
 }
 
 void Frame3::AddCaption(const char16_t* text, QWidget& buddy) {
-    auto* label = new QLabel(QString::fromUtf16(text), Body());
+    auto* label = MakeCaption(text, &buddy, Body());
     label->setWordWrap(true);
     label->setFixedWidth(CaptionWidth);
-    label->setBuddy(&buddy);
     // Beside a box of several lines, the caption stands at its first one.
     grid_->addWidget(label, line_, Column::Caption,
                      qobject_cast<MemoBox*>(&buddy) != nullptr ? Qt::AlignTop : Qt::AlignVCenter);
@@ -177,16 +168,14 @@ void Frame3::AddTaskBarTitle() {
     auto* box = new TextBox("Text1", Body());
     AddCaption(u"&Autorun title(program title visible in a taskbar)", *box);
     grid_->addWidget(box, line_, Column::Box, 1, Column::Columns - Column::Box);
-    table_.push_back({"Text1", FieldForm::Text, MainSection, "Tasknaslov"});
+    Binder().Bind(*box, Main<&T::Tasknaslov>);
     ++line_;
 }
 
 void Frame3::AddColumnHeads() {
     const auto addHead = [this](const char* name, const char16_t* text, int column, int span) {
-        auto* label = new QLabel(QString::fromUtf16(text), Body());
-        label->setObjectName(QString::fromLatin1(name));
-        label->setProperty("look", QStringLiteral("note"));
-        label->setFont(theme::NoteFont());
+        auto* label = MakeLabel(name, text, Body());
+        LookLikeNote(*label);
         grid_->addWidget(label, line_, column, 1, span);
     };
     addHead("Label20", u"Double click on the text box to change color", Column::Caption,
@@ -196,68 +185,74 @@ void Frame3::AddColumnHeads() {
 }
 
 void Frame3::AddText(const MainTextRow& row) {
-    QWidget* box = row.severalLines ? static_cast<QWidget*>(new MemoBox(row.box, Body()))
-                                    : new TextBox(row.box, Body());
+    QWidget* box = row.severalLines ? MakeBox<MemoBox>(row) : MakeBox<TextBox>(row);
     AddCaption(row.caption, *box);
     grid_->addWidget(box, line_, Column::Box);
     grid_->setRowStretch(line_, row.severalLines ? 1 : 0);
-    table_.push_back({row.box, FieldForm::Text, MainSection, row.key});
     AddColor(row, *box);
-    AddFont(row);
+    AddFont(row, *box);
     ++line_;
 }
 
+template <typename Box>
+QWidget* Frame3::MakeBox(const MainTextRow& row) {
+    auto* box = new Box(row.box, Body());
+    Binder().Bind(*box, row.text);
+    return box;
+}
+
 void Frame3::AddColor(const MainTextRow& row, QWidget& box) {
-    const bool back = row.colorForm == FieldForm::BackColor;
-    const std::string_view section = back ? BackColorSection : MainSection;
-    box.setToolTip(back ? QStringLiteral("Double click to change backcolor")
-                        : QStringLiteral("Double click to change font color"));
-    auto* button = new ColorPickButton(
-        {row.colorButton, "palette", u"", back ? u"Change back color" : u"Change font color",
-         ButtonLook::Icon},
-        Context(), box, FieldValue<ColorValue>(Document(), section, row.colorKey), Body());
+    box.setToolTip(row.backColor ? QStringLiteral("Double click to change backcolor")
+                                 : QStringLiteral("Double click to change font color"));
+    auto* button = new ColorPickButton({row.colorButton, "palette", u"",
+                                        row.backColor ? u"Change back color" : u"Change font color",
+                                        ButtonLook::Icon},
+                                       Context(), box, row.color.In(Document()), Body());
     connect(button, &ColorPickButton::Changed, this, &Frame3::ShowDocument);
     grid_->addWidget(button, line_, Column::Color, Qt::AlignTop);
-    table_.push_back({row.box, row.colorForm, section, row.colorKey});
-    if (!row.fontColorKey.empty()) {
-        table_.push_back({row.box, FieldForm::TextColor, MainSection, row.fontColorKey});
+    if (row.backColor) {
+        Binder().BindBackColor(box, row.color);
+    } else {
+        Binder().BindTextColor(box, row.color);
+    }
+    if (row.fontColor) {
+        Binder().BindTextColor(box, *row.fontColor);
     }
 }
 
-void Frame3::AddFont(const MainTextRow& row) {
+void Frame3::AddFont(const MainTextRow& row, QWidget& box) {
     auto* button =
         new PictureButton({row.fontButton, "font", u"", row.fontTooltip, ButtonLook::Icon}, Body());
     connect(button, &QAbstractButton::clicked, this, [this, &row] { ChooseFont(row); });
     grid_->addWidget(button, line_, Column::FontButton, Qt::AlignTop);
-    AddValue(row.fontLabel, row.fontKey, QStringLiteral("Font"), Column::FontName);
-    AddValue(row.sizeLabel, row.sizeKey, QStringLiteral("Font size"), Column::FontSize);
-    if (row.style == StyleKept::Flags) {
-        table_.push_back({row.box, FieldForm::BoldFont, MainSection, row.boldKey});
-        table_.push_back({row.box, FieldForm::ItalicFont, MainSection, row.italicKey});
+    AddValue(row.fontLabel, row.font, QStringLiteral("Font"), Column::FontName);
+    AddValue(row.sizeLabel, row.size, QStringLiteral("Font size"), Column::FontSize);
+    if (row.style) {
+        Binder().BindBold(box, row.style->bold);
+        Binder().BindItalic(box, row.style->italic);
     }
 }
 
-void Frame3::AddValue(const char* label, std::string_view key, const QString& accessibleName,
+void Frame3::AddValue(const char* label, FieldOf<std::string> field, const QString& accessibleName,
                       int column) {
     auto* value = new ValueLabel(label, Body());
+    Binder().Bind(*value, field);
     value->setAccessibleName(accessibleName);
     value->setFixedWidth(column == Column::FontName ? FontNameWidth : FontSizeWidth);
     grid_->addWidget(value, line_, column, Qt::AlignTop);
-    table_.push_back({label, FieldForm::Shown, MainSection, key});
 }
 
 void Frame3::AddStyleWords() {
-    AddValue("Label25", "Efekti", QStringLiteral("Font effects"), Column::FontName);
-    AddValue("Label23", "Stil", QStringLiteral("Font style"), Column::FontSize);
+    AddValue("Label25", Main<&T::Efekti>, QStringLiteral("Font effects"), Column::FontName);
+    AddValue("Label23", Main<&T::Stil>, QStringLiteral("Font style"), Column::FontSize);
     ++line_;
 }
 
 void Frame3::AddLogoPicture() {
-    auto* field = new PictureField(LogoPicture, Context(), Text("Logoslika"), Body());
+    auto* field = new PictureField(LogoPicture, Context(), Binder(), Main<&T::Logoslika>, Body());
     connect(field, &PictureField::Changed, this, &Frame3::ShowDocument);
     AddCaption(u"L&ogo picture", *field);
     grid_->addWidget(field, line_, Column::Box, 1, Column::Columns - Column::Box);
-    table_.push_back({LogoPicture.label, FieldForm::Shown, MainSection, "Logoslika"});
     ++line_;
 }
 
@@ -265,39 +260,40 @@ void Frame3::AddTransparency() {
     auto* check = new QCheckBox(QStringLiteral("Transparent description backgro&und"), Body());
     check->setObjectName(QStringLiteral("Check16"));
     grid_->addWidget(check, line_, Column::Box, 1, Column::Columns - Column::Box, Qt::AlignLeft);
-    table_.push_back({"Check16", FieldForm::Checked, MainSection, "Opis providan"});
+    Binder().Bind(*check, Main<&T::Opisprovidan>);
     ++line_;
 }
 
 void Frame3::ChooseFont(const MainTextRow& row) {
     auto& document = Document();
+    MainTexts& texts = document.OsnovniPodaci;
     PickedFont current;
-    current.font.name = Text(row.fontKey);
-    current.font.size = Text(row.sizeKey);
-    if (row.style == StyleKept::Words) {
-        TakeStyleWords(current.font, Text("Stil"), Text("Efekti"));
-    } else if (row.style == StyleKept::Flags) {
-        current.font.bold = FieldValue<bool>(document, MainSection, row.boldKey);
-        current.font.italic = FieldValue<bool>(document, MainSection, row.italicKey);
+    current.font.name = row.font.In(document);
+    current.font.size = row.size.In(document);
+    if (row.styleInWords) {
+        TakeStyleWords(current.font, texts.Stil, texts.Efekti);
+    } else if (row.style) {
+        current.font.bold = row.style->bold.In(document);
+        current.font.italic = row.style->italic.In(document);
     }
-    if (!row.fontColorKey.empty()) {
-        current.color = FieldValue<ColorValue>(document, MainSection, row.fontColorKey);
+    if (row.fontColor) {
+        current.color = row.fontColor->In(document);
     }
     const auto picked = PickFont(*this, current);
     if (!picked) {
         return;
     }
-    Text(row.fontKey) = picked->font.name;
-    Text(row.sizeKey) = picked->font.size;
-    if (row.style == StyleKept::Words) {
-        Text("Stil") = StyleWord(picked->font);
-        Text("Efekti") = EffectWords(picked->font);
-    } else if (row.style == StyleKept::Flags) {
-        FieldValue<bool>(document, MainSection, row.boldKey) = picked->font.bold;
-        FieldValue<bool>(document, MainSection, row.italicKey) = picked->font.italic;
+    row.font.In(document) = picked->font.name;
+    row.size.In(document) = picked->font.size;
+    if (row.styleInWords) {
+        texts.Stil = StyleWord(picked->font);
+        texts.Efekti = EffectWords(picked->font);
+    } else if (row.style) {
+        row.style->bold.In(document) = picked->font.bold;
+        row.style->italic.In(document) = picked->font.italic;
     }
-    if (!row.fontColorKey.empty()) {
-        FieldValue<ColorValue>(document, MainSection, row.fontColorKey) = picked->color;
+    if (row.fontColor) {
+        row.fontColor->In(document) = picked->color;
     }
     ShowDocument();
 }

@@ -2,7 +2,7 @@
 
 #include "settings/shared/panel.h"
 
-#include <vector>
+#include <string>
 
 class QGridLayout;
 
@@ -21,20 +21,20 @@ private:
     void AddTaskBarTitle();
     void AddColumnHeads();
     void AddText(const MainTextRow& row);
+    template <typename Box>
+    QWidget* MakeBox(const MainTextRow& row);
     void AddColor(const MainTextRow& row, QWidget& box);
-    void AddFont(const MainTextRow& row);
+    void AddFont(const MainTextRow& row, QWidget& box);
     void AddStyleWords();
     void AddLogoPicture();
     void AddTransparency();
     void AddCaption(const char16_t* text, QWidget& buddy);
-    void AddValue(const char* label, std::string_view key, const QString& accessibleName,
+    void AddValue(const char* label, FieldOf<std::string> field, const QString& accessibleName,
                   int column);
     void ChooseFont(const MainTextRow& row);
-    std::string& Text(std::string_view key) const;
 
     QGridLayout* grid_;
     int line_ = 0; ///< of the grid, the one that is filled
-    std::vector<FieldBinding> table_;
 };
 
 } // namespace tavmoor

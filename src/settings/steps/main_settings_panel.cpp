@@ -3,6 +3,7 @@
 #include "core/text/text_case.h"
 #include "services/controls/color_box.h"
 #include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/value_label.h"
@@ -19,9 +20,7 @@
 #include "settings/project/step_checks.h"
 #include "templates/template_catalogue.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QPixmap>
 
 #include <utility>
@@ -30,16 +29,8 @@ namespace tavmoor {
 
 namespace {
 
-constexpr std::string_view BaseSection = "Osnovna podesavanja";
-constexpr std::string_view TextSection = "Osnovni podaci";
-
-constexpr std::array Fields{
-    FieldBinding{"Text23", FieldForm::Text, BaseSection, "Glavni direktorijum"},
-    FieldBinding{"Label27", FieldForm::Shown, BaseSection, "Sablon"},
-    FieldBinding{"Label11", FieldForm::Shown, BaseSection, "Pozadinska slika"},
-    FieldBinding{"Label19", FieldForm::Color, BaseSection, "Boja prozora"},
-    FieldBinding{"Label35", FieldForm::Shown, TextSection, "Ikona"},
-};
+template <auto Member>
+constexpr auto Base = At<&ProjectDocument::OsnovnaPodesavanja, Member>;
 
 constexpr PictureFieldDescription BackgroundPicture{.label = "Label11",
                                                     .meaning = u"Background picture",
@@ -86,16 +77,13 @@ QString ShownTemplateName(const ProjectDocument& document) {
 
 Frame2::Frame2(ProgramContext context, QWidget* parent)
     : Panel(context, "Frame2", u"Main settings", parent) {
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Gap);
+    auto* layout = MakeColumn(Body());
     layout->addWidget(MakeFolderGroup());
     layout->addWidget(MakeTemplateGroup());
     layout->addWidget(MakeBackgroundGroup());
     layout->addWidget(MakeIconGroup());
     layout->addWidget(MakeFurtherSettings());
     layout->addStretch();
-    Bind(Fields);
 }
 
 QWidget* Frame2::MakeFolderGroup() {
@@ -103,13 +91,13 @@ QWidget* Frame2::MakeFolderGroup() {
     auto* group = MakeGroup(u"Point to CD-ROM files folder on local Disk", Body(), grid);
     folder_ = new PathBox("Text23", PathKind::Folder, group);
     folder_->setAccessibleName(group->title());
+    Binder().Bind(*folder_, Base<&BaseSettings::GlavniDirektorijum>);
     auto* browse = new PictureButton(
         {"Command32", "browse", u"", u"CD ROM files folder", ButtonLook::Icon}, group);
     auto* note = MakeCaption(u"(project folder where you keep files and folders that you want to "
                              u"have on your CD/DVD-ROM)",
                              folder_, group);
-    note->setProperty("look", QStringLiteral("note"));
-    note->setFont(theme::NoteFont());
+    LookLikeNote(*note);
     grid->addWidget(folder_, 0, 0);
     grid->addWidget(browse, 0, 1);
     grid->addWidget(note, 1, 0, 1, 2);
@@ -121,12 +109,14 @@ QWidget* Frame2::MakeTemplateGroup() {
     QHBoxLayout* row = nullptr;
     auto* group = MakeGroup(u"Template", Body(), row);
     templateName_ = MakeValue("Label89", u"Template", group);
+    auto* path = MakeValue("Label27", u"Template folder", group);
+    Binder().Bind(*path, Base<&BaseSettings::Sablon>);
     auto* select = new PictureButton(
         {"Command11", "template", u"Se&lect...",
          u"Select a template or the visual editor as the project's working environment"},
         group);
     row->addWidget(templateName_, TemplateNameShare);
-    row->addWidget(MakeValue("Label27", u"Template folder", group), TemplatePathShare);
+    row->addWidget(path, TemplatePathShare);
     row->addWidget(select);
     connect(select, &QAbstractButton::clicked, this,
             [this] { Windows().Main()->OpenTemplateWindow(); });
@@ -138,13 +128,14 @@ QWidget* Frame2::MakeBackgroundGroup() {
     auto* group =
         MakeGroup(u"Choose background picture and color of main autorun window", Body(), grid);
     group->setObjectName(QStringLiteral("Label2"));
-    BaseSettings& settings = Document().OsnovnaPodesavanja;
-    auto* picture = new PictureField(BackgroundPicture, Context(), settings.PozadinskaSlika, group);
+    auto* picture = new PictureField(BackgroundPicture, Context(), Binder(),
+                                     Base<&BaseSettings::PozadinskaSlika>, group);
     auto* color = new ColorBox("Label19", u"", u"Back color", group);
     color->setFixedWidth(ColorBoxWidth);
+    Binder().Bind(*color, Base<&BaseSettings::BojaProzora>);
     auto* pickColor = new ColorPickButton(
         {"Command2", "palette", u"", u"Click here to choose background color", ButtonLook::Icon},
-        Context(), *color, settings.BojaProzora, group);
+        Context(), *color, Document().OsnovnaPodesavanja.BojaProzora, group);
     grid->addWidget(MakeCaption(u"Background picture:", picture, group), 0, 0);
     grid->addWidget(picture, 0, 1, 1, 3);
     grid->addWidget(MakeCaption(u"Back color", color, group), 1, 0);
@@ -160,11 +151,11 @@ QWidget* Frame2::MakeIconGroup() {
     QHBoxLayout* row = nullptr;
     auto* group =
         MakeGroup(u"Choose autorun icon (or leave blank for default cd icon)", Body(), row);
-    icon_ = new QLabel(group);
-    icon_->setObjectName(QStringLiteral("Image1"));
+    icon_ = MakeLabel("Image1", u"", group);
     icon_->setAccessibleName(QStringLiteral("Selected autorun icon"));
     icon_->setFixedSize(IconSide, IconSide);
     auto* path = MakeValue("Label35", u"Autorun icon", group);
+    Binder().Bind(*path, At<&ProjectDocument::OsnovniPodaci, &MainTexts::Ikona>);
     auto* browse = new PictureButton(
         {"Command17", "browse", u"", u"Click here to browse for autorun icon", ButtonLook::Icon},
         group);
@@ -187,9 +178,7 @@ QWidget* Frame2::MakeIconGroup() {
 
 QWidget* Frame2::MakeFurtherSettings() {
     auto* box = new QWidget(Body());
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(theme::Gap);
+    auto* row = MakeRow(box);
     auto* backWindow =
         new PictureButton({"Command44", "back_window", u"",
                            u"Click here to set back window properties", ButtonLook::Icon},

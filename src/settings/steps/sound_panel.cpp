@@ -2,6 +2,8 @@
 
 #include "core/files/document_path.h"
 #include "services/controls/focused_scroll_bar.h"
+#include "services/controls/labels.h"
+#include "services/controls/layouts.h"
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/controls/text_boxes.h"
@@ -17,26 +19,14 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 namespace tavmoor {
 
 namespace {
 
-constexpr std::string_view Section = "Zvuk";
-
-constexpr std::array SoundBindings{
-    FieldBinding{"Label34", FieldForm::Shown, Section, "Fajl"},
-    FieldBinding{"Option1", FieldForm::Option, Section, "Akcija", 0},
-    FieldBinding{"Option2", FieldForm::Option, Section, "Akcija", 1},
-    FieldBinding{"HScroll1", FieldForm::Number, Section, "Ponovi"},
-    FieldBinding{"HScroll2", FieldForm::Number, Section, "Pauza"},
-    FieldBinding{"Text10", FieldForm::Text, Section, "Komanda"},
-    FieldBinding{"Check15", FieldForm::Checked, Section, "Signal"},
-    FieldBinding{"Label78", FieldForm::Shown, Section, "SignalFajl"},
-};
+template <auto Member>
+constexpr auto Sound = At<&ProjectDocument::Zvuk, Member>;
 
 constexpr ButtonDescription ChooseBackground{
     "Command14", "browse", u"Click here to choose &one sound file (Mp3, Wav, Mid)",
@@ -71,15 +61,12 @@ QFrame* MakeLine(QWidget* parent) {
 
 Frame5::Frame5(ProgramContext context, MP3Play& player, QWidget* parent)
     : Panel(context, "Frame5", u"Sound settings", parent), player_(player) {
-    auto* layout = new QVBoxLayout(Body());
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(theme::Margin);
-    layout->addLayout(MakeFileRows({ChooseBackground, BackgroundFilter, "Label34", "Command15",
-                                    "Command16", "Command45", &Frame5::PickBackground,
-                                    &Frame5::TakeBackground, &Frame5::PlayBackground,
-                                    &Frame5::SilenceBackground, &Frame5::ClearBackground}));
-    auto* row = new QHBoxLayout;
-    row->setSpacing(theme::Margin);
+    auto* layout = MakeColumn(Body(), theme::Margin);
+    layout->addLayout(MakeFileRows(
+        {ChooseBackground, BackgroundFilter, "Label34", Sound<&SoundSpec::Fajl>, "Command15",
+         "Command16", "Command45", &Frame5::PickBackground, &Frame5::TakeBackground,
+         &Frame5::PlayBackground, &Frame5::SilenceBackground, &Frame5::ClearBackground}));
+    auto* row = MakeRow(nullptr, theme::Margin);
     row->addWidget(MakeStartBox());
     row->addLayout(MakeRepeatGrid(), 1);
     layout->addLayout(row);
@@ -87,24 +74,24 @@ Frame5::Frame5(ProgramContext context, MP3Play& player, QWidget* parent)
     layout->addWidget(MakeLine(Body()));
     auto* click = new QCheckBox(QStringLiteral("Sound on button clic&k/mouse move"), Body());
     click->setObjectName(QStringLiteral("Check15"));
+    Binder().Bind(*click, Sound<&SoundSpec::Signal>);
     layout->addWidget(click);
     layout->addLayout(
-        MakeFileRows({ChooseClick, ClickFilter, "Label78", "Command34", "Command35", "Command46",
-                      &Frame5::PickClick, &Frame5::TakeClick, &Frame5::PlayClick,
-                      &Frame5::SilenceClick, &Frame5::ClearClick}));
+        MakeFileRows({ChooseClick, ClickFilter, "Label78", Sound<&SoundSpec::SignalFajl>,
+                      "Command34", "Command35", "Command46", &Frame5::PickClick, &Frame5::TakeClick,
+                      &Frame5::PlayClick, &Frame5::SilenceClick, &Frame5::ClearClick}));
     layout->addStretch(1);
-    connect(&Bind(SoundBindings), &FieldBinder::Stored, this, &Frame5::ShowRepeat);
+    connect(&Binder(), &FieldBinder::Stored, this, &Frame5::ShowRepeat);
 }
 
 QLayout* Frame5::MakeFileRows(const FileRow& row) {
-    auto* rows = new QVBoxLayout;
-    rows->setSpacing(theme::Gap);
+    auto* rows = MakeColumn();
     auto* choose = new PictureButton(row.choose, Body());
     connect(choose, &QAbstractButton::clicked, this, row.pick);
     rows->addWidget(choose, 0, Qt::AlignLeft);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(theme::Gap);
+    auto* line = MakeRow();
     auto* label = new ValueLabel(row.label, Body());
+    Binder().Bind(*label, row.path);
     label->setAccessibleName(choose->accessibleName());
     connect(new PathDrop(*label, row.filter), &PathDrop::Dropped, this,
             [this, take = row.take](const QString& path) { (this->*take)(FromQString(path)); });
@@ -132,6 +119,8 @@ QWidget* Frame5::MakeStartBox() {
     auto* onDemand = new QRadioButton(QStringLiteral("&Wait for user to start it"), box);
     atStart->setObjectName(QStringLiteral("Option1"));
     onDemand->setObjectName(QStringLiteral("Option2"));
+    Binder().BindOption(*atStart, Sound<&SoundSpec::Akcija>, false);
+    Binder().BindOption(*onDemand, Sound<&SoundSpec::Akcija>, true);
     layout->addWidget(atStart);
     layout->addWidget(onDemand);
     return box;
@@ -140,37 +129,33 @@ QWidget* Frame5::MakeStartBox() {
 QLayout* Frame5::MakeRepeatGrid() {
     constexpr int PageOfRepeats = 10;
     constexpr int PageOfSeconds = 5;
-    auto* grid = new QGridLayout;
-    grid->setSpacing(theme::Gap);
+    auto* grid = MakeGrid();
     grid->setColumnStretch(1, 1);
-    const auto addRow = [&](int row, const QString& caption, QScrollBar* bar, const char* text) {
-        auto* label = new QLabel(caption, Body());
-        label->setBuddy(bar);
-        auto* value = new QLabel(Body());
-        value->setObjectName(QString::fromLatin1(text));
+    const auto addRow = [&](int row, const char16_t* caption, QScrollBar* bar, const char* text) {
+        auto* value = MakeLabel(text, u"", Body());
         // As wide as its longest text, so that the bars do not jump.
         value->setMinimumWidth(value->fontMetrics().horizontalAdvance(RepeatText(MostRepeats)));
-        grid->addWidget(label, row, 0);
+        grid->addWidget(MakeCaption(caption, bar), row, 0);
         grid->addWidget(bar, row, 1);
         grid->addWidget(value, row, 2);
         return value;
     };
     auto* repeat = new FocusedScrollBar("HScroll1", 1, MostRepeats, PageOfRepeats, Body());
     auto* pause = new FocusedScrollBar("HScroll2", 1, LongestPause, PageOfSeconds, Body());
-    repeatText_ = addRow(0, QStringLiteral("Repe&at"), repeat, "Label31");
-    pauseText_ = addRow(1, QStringLiteral("Pa&use between repeat"), pause, "Label33");
+    Binder().Bind(*repeat, Sound<&SoundSpec::Ponovi>);
+    Binder().Bind(*pause, Sound<&SoundSpec::Pauza>);
+    repeatText_ = addRow(0, u"Repe&at", repeat, "Label31");
+    pauseText_ = addRow(1, u"Pa&use between repeat", pause, "Label33");
     return grid;
 }
 
 QLayout* Frame5::MakeCaptionRow() {
     constexpr int CaptionWidth = 260;
-    auto* row = new QHBoxLayout;
-    row->setSpacing(theme::Gap);
-    auto* label = new QLabel(QStringLiteral("Sound butto&n caption"), Body());
+    auto* row = MakeRow();
     auto* caption = new TextBox("Text10", Body());
     caption->setFixedWidth(CaptionWidth);
-    label->setBuddy(caption);
-    row->addWidget(label);
+    Binder().Bind(*caption, Sound<&SoundSpec::Komanda>);
+    row->addWidget(MakeCaption(u"Sound butto&n caption", caption));
     row->addWidget(caption);
     row->addStretch(1);
     return row;

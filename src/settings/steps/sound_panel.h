@@ -29,6 +29,7 @@ private:
         const ButtonDescription& choose;
         std::string_view filter; ///< of the file dialog, and of what can be dropped
         const char* label;       ///< shows the path; files can be dropped on it
+        FieldOf<std::string> path;
         const char* hear;
         const char* stop;
         const char* remove;

@@ -1,4 +1,5 @@
 #include "core/document/project_reset.h"
+#include "core/document/project_writer.h"
 #include "core/text/code_page.h"
 #include "services/controls/color_box.h"
 #include "services/controls/path_box.h"
@@ -23,32 +24,43 @@ namespace tavmoor {
 
 namespace {
 
-constexpr FieldBinding Table[] = {
-    {"Title", FieldForm::Text, "Osnovni podaci", "Tasknaslov"},
-    {"Title", FieldForm::TextColor, "Osnovni podaci", "Logotekstboja"},
-    {"Description", FieldForm::Text, "Osnovni podaci", "GlavniOpis"},
-    {"Path", FieldForm::Text, "Osnovna podesavanja", "Glavni direktorijum"},
-    {"Icon", FieldForm::Shown, "Osnovni podaci", "Ikona"},
-    {"Transparent", FieldForm::Checked, "Osnovni podaci", "Opis providan"},
-    {"Closes", FieldForm::Checked, "Izvrsne komande", "Zatvara3"},
-    {"Type", FieldForm::Choice, "Izvrsne komande", "Vrsta3"},
-    {"Repeat", FieldForm::Number, "Zvuk", "Ponovi"},
-    {"TextOnly", FieldForm::Option, "Uvod", "Opcija", 3},
-    {"Color", FieldForm::Color, "Izvrsne komande", "Boja slova"},
+using D = ProjectDocument;
+
+template <auto Member>
+constexpr auto Main = At<&D::OsnovniPodaci, Member>;
+template <auto Member>
+constexpr auto Command = At<&D::IzvrsneKomande, &CommandLook::Komande, Member>;
+
+template <typename Control, typename Field>
+concept Binds = requires(FieldBinder& binder, Control& control, Field field) {
+    binder.Bind(control, field);
 };
+
+static_assert(Binds<QCheckBox, decltype(Command<&FixedCommand::Zatvara>[3])>);
+static_assert(!Binds<QCheckBox, decltype(Command<&FixedCommand::Zatvara>)>, "no row is named");
+static_assert(!Binds<QCheckBox, decltype(Main<&MainTexts::Tasknaslov>)>, "a text is no flag");
+static_assert(!Binds<ColorBox, decltype(Main<&MainTexts::Opisprovidan>)>, "a flag is no color");
 
 class BoundFields : public testing::Test {
 protected:
     explicit BoundFields(Storing storing = Storing::AtOnce) {
-        color.setParent(&window);
-        type.setObjectName(QStringLiteral("Type"));
         type.addItems({QStringLiteral("Send mail"), QStringLiteral("Open file")});
-        transparent.setObjectName(QStringLiteral("Transparent"));
-        closes.setObjectName(QStringLiteral("Closes"));
-        repeat.setObjectName(QStringLiteral("Repeat"));
         repeat.setRange(1, 60);
-        textOnly.setObjectName(QStringLiteral("TextOnly"));
-        binder = std::make_unique<FieldBinder>(window, document, Table, storing);
+        binder = std::make_unique<FieldBinder>(window, document, storing);
+        binder->Bind(title, Main<&MainTexts::Tasknaslov>);
+        binder->BindTextColor(title, Main<&MainTexts::Logotekstboja>);
+        binder->BindBold(title, Main<&MainTexts::GlavniOpisBold>);
+        binder->Bind(description, Main<&MainTexts::GlavniOpis>);
+        binder->Bind(path, At<&D::OsnovnaPodesavanja, &BaseSettings::GlavniDirektorijum>);
+        binder->Bind(icon, Main<&MainTexts::Ikona>);
+        binder->Bind(transparent, Main<&MainTexts::Opisprovidan>);
+        binder->Bind(closes, Command<&FixedCommand::Zatvara>[3]);
+        binder->Bind(type, Command<&FixedCommand::Vrsta>[3]);
+        binder->Bind(repeat, At<&D::Zvuk, &SoundSpec::Ponovi>);
+        binder->Bind(repeated, At<&D::Zvuk, &SoundSpec::Ponovi>);
+        binder->BindOption(onDemand, At<&D::Zvuk, &SoundSpec::Akcija>, true);
+        binder->BindOption(textOnly, At<&D::Uvod, &ScreenSpec::Opcija>, 3);
+        binder->Bind(color, At<&D::IzvrsneKomande, &CommandLook::Bojaslova>);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -64,6 +76,9 @@ protected:
     QCheckBox closes{&window};
     QComboBox type{&window};
     QSlider repeat{&window};
+    ValueLabel repeated{"Repeated", &window};
+    QWidget otherGroup{&window};
+    QRadioButton onDemand{&otherGroup};
     QRadioButton textOnly{&window};
     ColorBox color{"Color", u"", u"", &window};
     std::unique_ptr<FieldBinder> binder;
@@ -73,38 +88,57 @@ protected:
 
 TEST_F(BoundFields, ShowsEveryFormAndStoresOnlyWhatTheUserChanges) {
     document.OsnovniPodaci.Tasknaslov = "\xC4 title";
+    document.OsnovniPodaci.Logotekstboja = 0xFF;
+    document.OsnovniPodaci.GlavniOpisBold = true;
     document.OsnovniPodaci.GlavniOpis = "one\ntwo";
     document.OsnovniPodaci.Ikona = "Z:\\icons\\a.ico";
     document.OsnovniPodaci.Opisprovidan = true;
+    document.IzvrsneKomande.Komande[3].Zatvara = -1;
     document.IzvrsneKomande.Komande[3].Vrsta = "Something else";
     document.IzvrsneKomande.Bojaslova = "255";
     document.Zvuk.Ponovi = 700;
     document.Uvod.Opcija = 3;
-    const ProjectDocument before = document;
+    ProjectDocument expected = document;
     binder->Show();
     EXPECT_EQ(title.text(), QStringLiteral("Ä title"));
+    EXPECT_TRUE(title.styleSheet().contains(QStringLiteral("{color: #ff0000;}")));
+    EXPECT_TRUE(title.font().bold());
     EXPECT_EQ(description.toPlainText(), QStringLiteral("one\ntwo"));
     EXPECT_EQ(icon.FullText(), QStringLiteral("Z:\\icons\\a.ico"));
     EXPECT_TRUE(transparent.isChecked());
+    EXPECT_TRUE(closes.isChecked());
+    EXPECT_FALSE(onDemand.isChecked());
     EXPECT_TRUE(textOnly.isChecked());
     EXPECT_EQ(color.Color(), 255);
     EXPECT_EQ(repeat.value(), 60);
+    EXPECT_EQ(repeated.FullText(), QStringLiteral("700"));
     // Neither the line breaks, nor the number out of range, nor the unknown type came back.
-    EXPECT_EQ(document.OsnovniPodaci.GlavniOpis, "one\ntwo");
-    EXPECT_EQ(document.Zvuk.Ponovi, 700);
-    EXPECT_EQ(document.IzvrsneKomande.Komande[3].Vrsta, "Something else");
+    EXPECT_EQ(ProjectText(document), ProjectText(expected));
 
+    std::vector<QWidget*> stored;
+    QObject::connect(binder.get(), &FieldBinder::Stored,
+                     [&](QWidget* control) { stored.push_back(control); });
     QTest::keyClick(&title, Qt::Key_End);
     QTest::keyClicks(&title, QStringLiteral("!"));
     QTest::keyClicks(&description, QStringLiteral("0"));
+    transparent.click();
     closes.click();
     type.setCurrentIndex(1);
     repeat.setValue(7);
-    EXPECT_EQ(document.OsnovniPodaci.Tasknaslov, "\xC4 title!");
-    EXPECT_EQ(document.OsnovniPodaci.GlavniOpis, "0one\r\ntwo");
+    onDemand.click();
+    const std::vector<QWidget*> changed{&title, &description, &transparent, &closes,
+                                        &type,  &repeat,      &onDemand};
+    EXPECT_EQ(stored, changed);
+    expected.OsnovniPodaci.Tasknaslov = "\xC4 title!";
+    expected.OsnovniPodaci.GlavniOpis = "0one\r\ntwo";
+    expected.OsnovniPodaci.Opisprovidan = false;
+    expected.IzvrsneKomande.Komande[3].Zatvara = 0;
+    expected.IzvrsneKomande.Komande[3].Vrsta = "Open file";
+    expected.Zvuk.Ponovi = 7;
+    expected.Zvuk.Akcija = true;
+    EXPECT_EQ(ProjectText(document), ProjectText(expected));
+    closes.click();
     EXPECT_EQ(document.IzvrsneKomande.Komande[3].Zatvara, 1);
-    EXPECT_EQ(document.IzvrsneKomande.Komande[3].Vrsta, "Open file");
-    EXPECT_EQ(document.Zvuk.Ponovi, 7);
 }
 
 TEST_F(BoundFields, RefusesWhatTheCodePageCannotHoldAndSaysWhy) {
@@ -231,11 +265,13 @@ TEST_F(ConfirmedBinding, StoresNothingBeforeTheConfirmCommand) {
     binder->Show();
     QTest::keyClicks(&title, QStringLiteral("new"));
     closes.click();
+    color.SetColor(7);
     EXPECT_EQ(document.OsnovniPodaci.Tasknaslov, "");
     binder->Store();
     EXPECT_EQ(document.OsnovniPodaci.Tasknaslov, "new");
     EXPECT_EQ(document.IzvrsneKomande.Komande[3].Zatvara, 1);
     EXPECT_EQ(document.IzvrsneKomande.Komande[3].Vrsta, "Something else");
+    EXPECT_EQ(document.IzvrsneKomande.Bojaslova, "7");
 }
 
 } // namespace tavmoor
