@@ -12,15 +12,13 @@ namespace tavmoor {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
-
 MenuText LogoText(const MainTexts& texts, const FixedText& look) {
-    MenuText logo{
-        Utf8Text(texts.Logotekst),
-        StoredFont(texts.Font, texts.Velicina, texts.Stil == "Bold", texts.Stil == "Italic"),
-        texts.Logotekstboja};
-    logo.font.underline = look.TekstUnderline || EndsWithoutCase(texts.Efekti, "line");
-    logo.font.strikeOut = texts.Efekti.starts_with("Strike");
+    MenuText logo{Utf8Text(texts.Logotekst),
+                  StoredFont(texts.Font, texts.Velicina, texts.Stil == words::Bold,
+                             texts.Stil == words::Italic),
+                  texts.Logotekstboja};
+    logo.font.underline = look.TekstUnderline || EndsWithoutCase(texts.Efekti, words::UnderlineEnd);
+    logo.font.strikeOut = texts.Efekti.starts_with(words::StrikeThruStart);
     return logo;
 }
 
@@ -59,20 +57,20 @@ void TakeButtonLook(MenuModel& model, const CommandLook& look) {
 /// A kind that the windows do not offer opens the target, which is what most commands do.
 CommandKind KindOf(std::string_view kind) {
     kind = TrimBlanks(kind);
-    if (EqualWithoutCase(kind, "Run program")) {
+    if (EqualWithoutCase(kind, words::RunProgram)) {
         return CommandKind::RunProgram;
     }
-    if (EqualWithoutCase(kind, "Visit web page")) {
+    if (EqualWithoutCase(kind, words::VisitWebPage)) {
         return CommandKind::VisitPage;
     }
-    return EqualWithoutCase(kind, "Send mail") ? CommandKind::SendMail : CommandKind::OpenFile;
+    return EqualWithoutCase(kind, words::SendMail) ? CommandKind::SendMail : CommandKind::OpenFile;
 }
 
 void TakeFixedCommands(MenuModel& model, const ProjectDocument& document) {
     for (std::size_t row = 1; row < FixedCommandRows; ++row) {
         const FixedCommand& from = document.IzvrsneKomande.Komande[row];
         const CommandDescription& told = document.OpisKomandi[row];
-        if (from.Opis.empty() || from.Vrsta.empty()) {
+        if (from.IsFree()) {
             continue;
         }
         const CommandKind kind = KindOf(from.Vrsta);
@@ -89,7 +87,7 @@ void TakeFixedCommands(MenuModel& model, const ProjectDocument& document) {
 
 void TakeAdditionalCommands(MenuModel& model, const ProjectDocument& document) {
     for (const CommandEntry& from : document.DodatneKomande) {
-        if (from.addname.empty() || from.addname == " ") {
+        if (from.IsFree()) {
             continue;
         }
         model.commands.push_back({KindOf(from.addtype),
@@ -121,7 +119,7 @@ void TakeExit(MenuModel& model, const CommandLook& look) {
     MenuCommand exit;
     exit.kind = CommandKind::Exit;
     exit.group = MenuGroup::Program;
-    exit.caption = look.Izlaz.empty() ? "Exit" : Utf8Text(look.Izlaz);
+    exit.caption = look.Izlaz.empty() ? std::string(words::ExitCaption) : Utf8Text(look.Izlaz);
     exit.description = {Utf8Text(look.Exitdesctitle), Utf8Text(look.Exitdescription)};
     model.commands.push_back(std::move(exit));
 }

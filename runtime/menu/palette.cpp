@@ -13,16 +13,14 @@ constexpr Argb Ink = 0xFF10161C;
 constexpr double Readable = 3.0;
 
 // What a new project holds; a look with a taste of its own takes these for "not chosen".
-constexpr std::uint32_t NewWindowColor = 0x80000005;
-constexpr std::uint32_t NewButtonText = 0x80000012;
-constexpr std::uint32_t NewButtonFace = 0x8000000F;
+constexpr std::uint32_t NewWindowColor = SystemColorBit | 5U;
+constexpr std::uint32_t NewButtonText = SystemColorBit | 18U;
+constexpr std::uint32_t NewButtonFace = SystemColorBit | 15U;
 constexpr std::uint32_t NewDescriptionColor = 0x00FFFFFF;
 constexpr std::uint32_t NewTextColor = 0;
 
 /// Opacity of a button's face on a picture.
 constexpr std::uint32_t OverPicture = 0xC8;
-
-constexpr std::uint32_t SystemColorBit = 0x80000000;
 
 constexpr std::uint32_t Channel(Argb color, int shift) {
     return (color >> shift) & 0xFF;

@@ -18,13 +18,13 @@ constexpr std::int16_t TextOnly = 3;
 
 std::optional<ScreenPlace> PlaceOf(std::string_view name) {
     constexpr std::array<std::pair<std::string_view, ScreenPlace>, 7> names{{
-        {"Top left", ScreenPlace::TopLeft},
-        {"Top right", ScreenPlace::TopRight},
-        {"Top center", ScreenPlace::TopCenter},
-        {"Botton left", ScreenPlace::BottomLeft},
-        {"Bottom right", ScreenPlace::BottomRight},
-        {"Bottom center", ScreenPlace::BottomCenter},
-        {"Centered on window", ScreenPlace::Center},
+        {words::TopLeft, ScreenPlace::TopLeft},
+        {words::TopRight, ScreenPlace::TopRight},
+        {words::TopCenter, ScreenPlace::TopCenter},
+        {words::BottomLeft, ScreenPlace::BottomLeft},
+        {words::BottomRight, ScreenPlace::BottomRight},
+        {words::BottomCenter, ScreenPlace::BottomCenter},
+        {words::CenteredOnWindow, ScreenPlace::Center},
     }};
     name = TrimBlanks(name);
     if (name.ends_with('!')) {
@@ -62,10 +62,9 @@ ScreenModel MakeScreenModel(const ScreenSpec& screen) {
 }
 
 int ScreenSeconds(std::string_view text) {
-    constexpr int usual = 5;
-    constexpr int most = 60;
     const auto seconds = ParseNumber(text);
-    return seconds && *seconds >= 1 && *seconds <= most ? static_cast<int>(*seconds) : usual;
+    return seconds && *seconds >= 1 && *seconds <= MostScreenSeconds ? static_cast<int>(*seconds)
+                                                                     : UsualScreenSeconds;
 }
 
 } // namespace tavmoor

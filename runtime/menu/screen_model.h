@@ -23,7 +23,7 @@ enum class ScreenPlace : std::uint8_t {
 struct ScreenModel {
     bool shown = false;
     bool clickCloses = false; ///< before its time is over
-    int seconds = 0;          ///< how long it is shown, 1 to 60
+    int seconds = 0;          ///< how long it is shown, 1 to MostScreenSeconds
     Extent size;              ///< pixels at 96 dpi; 0 for a side that is not given
     ColorValue color = 0;
     std::string picture; ///< name in the package; "" for none
@@ -34,7 +34,8 @@ struct ScreenModel {
 
 ScreenModel MakeScreenModel(const ScreenSpec& screen);
 
-/// The seconds that a stored time says, 1 to 60, fractions cut; 5 for any other text.
+/// The seconds that a stored time says, 1 to MostScreenSeconds, fractions cut; UsualScreenSeconds
+/// for any other text.
 int ScreenSeconds(std::string_view text);
 
 } // namespace tavmoor

@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include "console.h"
+#include "core/document/words.h"
 #include "core/files/runtime_error.h"
 #include "core/session/recovery_folder.h"
 #include "package/package_reader.h"
@@ -63,6 +64,11 @@ private:
         }
     }
 
+    static void AddProject(CLI::App* command, std::string& project) {
+        const std::string ending(words::ProjectEnding);
+        command->add_option("PROJECT", project, "The project file (" + ending + ")")->required();
+    }
+
     static void AddProgramFolder(CLI::App* command, std::optional<std::string>& folder) {
         command->add_option("--program-folder", folder,
                             "The folder that a leading % in the project stands for");
@@ -70,7 +76,7 @@ private:
 
     void AddBuild() {
         CLI::App* build = app_.add_subcommand("build", "Build the autorun into the disc's folder");
-        build->add_option("PROJECT", build_.project, "The project file (.tavp)")->required();
+        AddProject(build, build_.project);
         build->add_option("--cd-folder", build_.cdFolder, "The disc's folder, over the project's");
         build->add_option("--name", build_.name, "The autorun's name, without .exe");
         build->add_flag("--run", build_.run, "Start the autorun afterwards");
@@ -92,7 +98,7 @@ private:
     CLI::App* AddProjectCommand(const char* name, const char* description,
                                 int (*run)(const ProjectArguments&)) {
         CLI::App* command = app_.add_subcommand(name, description);
-        command->add_option("PROJECT", project_.project, "The project file (.tavp)")->required();
+        AddProject(command, project_.project);
         AddProgramFolder(command, project_.programFolder);
         command->callback([this, run] { command_ = [this, run] { return run(project_); }; });
         return command;

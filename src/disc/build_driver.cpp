@@ -227,7 +227,7 @@ BuildOutcome BuildAutorun(ProjectDocument& document, const BuildRequest& request
 void FillScreenTimes(ProjectDocument& document) {
     for (ScreenSpec* screen : {&document.Izlaz, &document.Uvod}) {
         if (screen->Vreme.empty()) {
-            screen->Vreme = "5";
+            screen->Vreme = UsualScreenSecondsText;
         }
     }
 }

@@ -34,7 +34,7 @@ constexpr FieldSpec BaseFields[] = {
     Field("backscreenslika", Base<&B::backscreenslika>).EmptyKeeps().InPackage(9),
     Field("Backscrpredpos", Base<&B::Backscrpredpos>).Flag(FlagForm::DaNe),
     Field("backscreenpicpozicija", Base<&B::backscreenpicpozicija>)
-        .EmptyGives("Top left")
+        .EmptyGives(words::TopLeft)
         .When(Base<&B::Backscrpredpos>, true, "backscreenpicpozicija=Ne"),
     Field("PozicijaX", Base<&B::PozicijaX>)
         .EmptyGives("0")

@@ -48,12 +48,12 @@ void AppendExitCaption(std::string& text, const ProjectDocument& document, std::
                        FieldFile file) {
     const bool blank = TrimBlanks(value).empty();
     if (file == FieldFile::Project) {
-        text += blank ? EmptyCaptionToken : value;
+        text += blank ? words::BlankCaptionToken : value;
     } else if (!blank) {
         AppendEncoded(text, value);
     } else {
         const bool editor = document.Working.TemplateName == EditorTemplateName;
-        text += editor ? EmptyCaptionToken : std::string_view("Exit");
+        text += editor ? words::BlankCaptionToken : words::ExitCaption;
     }
 }
 
@@ -84,8 +84,8 @@ void AppendText(std::string& text, const ProjectDocument& document, const FieldS
         AppendExitCaption(text, document, value, file);
         return;
     case TextForm::CommandTitle:
-        if (value == EmptyCaption) {
-            text += EmptyCaptionToken;
+        if (value == words::BlankCaption) {
+            text += words::BlankCaptionToken;
         } else {
             AppendEncoded(text, value);
         }
@@ -96,8 +96,8 @@ void AppendText(std::string& text, const ProjectDocument& document, const FieldS
 void SetText(std::string& value, const FieldSpec& field, std::string_view text) {
     const bool caption =
         field.textForm == TextForm::ExitCaption || field.textForm == TextForm::CommandTitle;
-    if (caption && text == EmptyCaptionToken) {
-        value = EmptyCaption;
+    if (caption && text == words::BlankCaptionToken) {
+        value = words::BlankCaption;
     } else if (field.roundedOnRead) {
         value = RoundSize(text);
     } else if (field.decoded && text.find("Chr$(") != std::string_view::npos) {

@@ -74,17 +74,12 @@ private:
                 }
                 break;
             case WriteRows::Commands:
-                if (IsCommandInUse(row)) {
+                if (!document_.DodatneKomande[row].IsFree()) {
                     WriteRow(block, written++);
                 }
                 break;
             }
         }
-    }
-
-    [[nodiscard]] bool IsCommandInUse(std::size_t row) const {
-        const std::string& title = document_.DodatneKomande[row].addname;
-        return !title.empty() && title != " ";
     }
 
     void WriteRow(const FieldBlock& block, std::size_t row) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/document/measures.h"
+#include "core/document/words.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -13,9 +16,6 @@ namespace tavmoor {
 //
 // Texts are bytes in the system's code page. Member initialisers give the value at program start,
 // which the fields that "new project" does not touch keep until a window or a file changes them.
-
-/// A colour 0x00BBGGRR; with the high bit set a system colour.
-using ColorValue = std::int32_t;
 
 inline constexpr std::size_t FixedCommandRows = 7;        ///< used 1 to 6
 inline constexpr std::size_t AdditionalCommandRows = 101; ///< 0 to 100
@@ -69,8 +69,8 @@ struct MainTexts {
     std::string Ikona;
     std::string Font;     ///< of the logo text
     std::string Velicina; ///< of the logo text
-    std::string Stil;     ///< "", "Bold" or "Italic"
-    std::string Efekti;   ///< "", "StrikeThru", "Underline" or "StrikeThru, Underline"
+    std::string Stil;     ///< "", words::Bold or words::Italic
+    std::string Efekti;   ///< none, one or both of words::StrikeThru and words::Underline
     std::string Vertekst;
     std::string Vertfont;
     std::string Vertfontvelicina;
@@ -81,12 +81,15 @@ struct FixedCommand {
     std::string Fajl;
     std::string Opis;
     std::string Parametar;
-    std::string Vrsta; ///< "Open file", "Run program", "Visit web page" or "Send mail"
+    std::string Vrsta; ///< one of words::CommandKinds
     std::int16_t Zatvara = 0;
+
+    /// Without a title or a kind it is no command.
+    [[nodiscard]] bool IsFree() const { return Opis.empty() || Vrsta.empty(); }
 };
 
 struct CommandLook {
-    std::string Izlaz; ///< exit caption; two blanks are the caption that is blank on purpose
+    std::string Izlaz; ///< exit caption; words::BlankCaption where it is blank on purpose
     std::string Exitdesctitle;
     std::string Exitdescription;
     std::string Sounddesctitle;
@@ -107,7 +110,7 @@ struct CommandDescription {
 };
 
 struct CommandEntry {
-    std::string addname; ///< "" or " " is a free slot, two blanks a used one with a blank title
+    std::string addname; ///< words::BlankCaption where it is blank on purpose
     std::string adddesctitle;
     std::string adddescription;
     std::string addtarget;
@@ -116,6 +119,9 @@ struct CommandEntry {
     std::string addclose;
     std::string addStopBackgroundMusic;
     std::int32_t AddID = 0; ///< ties the command to the button with the same `DugmeID`
+
+    /// A slot that no command has taken; a title blank on purpose takes one.
+    [[nodiscard]] bool IsFree() const { return addname.empty() || addname == words::FreeSlot; }
 };
 
 struct MenuTitleTexts {

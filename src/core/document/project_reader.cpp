@@ -132,9 +132,8 @@ private:
 std::int16_t CountFixedCommands(const ProjectDocument& document) {
     const auto& commands = document.IzvrsneKomande.Komande;
     return static_cast<std::int16_t>(
-        std::count_if(commands.begin() + 1, commands.end(), [](const FixedCommand& command) {
-            return !command.Opis.empty() && !command.Vrsta.empty();
-        }));
+        std::count_if(commands.begin() + 1, commands.end(),
+                      [](const FixedCommand& command) { return !command.IsFree(); }));
 }
 
 const FieldBlock& ButtonBlock() {

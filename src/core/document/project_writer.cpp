@@ -8,13 +8,6 @@ namespace tavmoor {
 
 namespace {
 
-constexpr std::string_view Extension = ".tavp";
-
-/// Without the dot, so that a name ending in "xtavp" passes, too.
-bool HasProjectEnding(std::string_view path) {
-    return path.ends_with(Extension.substr(1));
-}
-
 /// Asks for the path. The second copy, which the open dialog starts from, follows only when the
 /// extension had to be added; with the extension typed by hand it stays as it was.
 bool AskForPath(WorkingValues& working, const std::string& programFolder,
@@ -22,20 +15,24 @@ bool AskForPath(WorkingValues& working, const std::string& programFolder,
     const std::string& folder =
         working.LastProjectFolder.empty() ? programFolder : working.LastProjectFolder;
     const std::string chosen =
-        dialog.Show(folder, "Save autorun project ...", "Tavmoor project (.tavp)| *.tavp");
+        dialog.Show(folder, "Save autorun project ...", words::ProjectFilter);
     if (chosen.empty()) {
         return false;
     }
     working.LastProjectFolder = chosen.substr(0, chosen.size() - FileNameOf(chosen).size());
     working.ProjectPath = chosen;
     if (!HasProjectEnding(chosen)) {
-        working.ProjectPath += Extension;
+        working.ProjectPath += words::ProjectEnding;
         working.Recent = working.ProjectPath;
     }
     return true;
 }
 
 } // namespace
+
+bool HasProjectEnding(std::string_view path) {
+    return path.ends_with(words::ProjectEnding.substr(1));
+}
 
 std::string ProjectText(const ProjectDocument& document) {
     return FieldFileText(document, FieldFile::Project);
@@ -54,14 +51,16 @@ bool SaveProject(ProjectDocument& document, std::string_view target,
             return false;
         }
     } else if (!HasProjectEnding(working.ProjectPath)) {
-        working.ProjectPath += Extension;
-        working.Recent += Extension;
+        working.ProjectPath += words::ProjectEnding;
+        working.Recent += words::ProjectEnding;
     }
     WriteProject(document, working.ProjectPath);
     dialog.LetEventsRun();
     const std::string shown = dialog.CurrentFileName();
     if (!shown.empty()) {
-        working.ProjectPath = shown.ends_with(Extension) ? shown : shown + std::string(Extension);
+        working.ProjectPath = shown.ends_with(words::ProjectEnding)
+                                  ? shown
+                                  : shown + std::string(words::ProjectEnding);
     }
     return true;
 }

@@ -29,6 +29,9 @@ protected:
 /// The target of SaveProject that asks for a file name.
 inline constexpr std::string_view AskForName = "novi";
 
+/// True for a name that ends as project files do; that of "xtavp", without the dot, passes, too.
+bool HasProjectEnding(std::string_view path);
+
 /// The whole text of the project file.
 std::string ProjectText(const ProjectDocument& document);
 

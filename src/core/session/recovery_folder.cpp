@@ -24,15 +24,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view Extension = ".tavp";
-constexpr std::string_view BesideEnding = ".recovered.tavp";
+constexpr std::string_view BesideMark = ".recovered";
 constexpr std::size_t CopiesKept = 20;
 
 /// A path at which nothing lies yet: an older recovery file may hold the only copy of some work.
 std::string FreePath(const std::string& start) {
-    std::string path = start + std::string(BesideEnding);
+    const std::string ending = std::string(BesideMark).append(words::ProjectEnding);
+    std::string path = start + ending;
     for (int number = 2; FileExists(path); ++number) {
-        path = start + "-" + std::to_string(number) + std::string(BesideEnding);
+        path = start + "-" + std::to_string(number) + ending;
     }
     return path;
 }
@@ -41,8 +41,8 @@ std::string FreePath(const std::string& start) {
 /// program.
 std::optional<std::string> WriteBesideProject(const ProjectDocument& document) {
     std::string start = document.Working.ProjectPath;
-    if (start.ends_with(Extension)) {
-        start.resize(start.size() - Extension.size());
+    if (start.ends_with(words::ProjectEnding)) {
+        start.resize(start.size() - words::ProjectEnding.size());
     }
     if (start.empty()) {
         return std::nullopt;
@@ -70,8 +70,8 @@ std::string EnsureRecoveryFolder() {
 
 std::string ProjectName(const ProjectDocument& document) {
     std::string name(FileNameOf(document.Working.ProjectPath));
-    if (name.ends_with(Extension)) {
-        name.resize(name.size() - Extension.size());
+    if (name.ends_with(words::ProjectEnding)) {
+        name.resize(name.size() - words::ProjectEnding.size());
     }
     return name.empty() ? "unsaved" : name;
 }
@@ -89,7 +89,7 @@ std::string DateAndTime(std::chrono::system_clock::time_point time) {
 
 /// A name whose date and time no other copy has: copies of one second are told apart by theirs.
 std::string FreeCopyName(const std::string& folder, const std::string& projectName) {
-    const auto names = FileNamesIn(folder, Extension);
+    const auto names = FileNamesIn(folder, words::ProjectEnding);
     auto time = std::chrono::system_clock::now();
     std::string start = DateAndTime(time);
     while (std::any_of(names.begin(), names.end(),
@@ -97,7 +97,7 @@ std::string FreeCopyName(const std::string& folder, const std::string& projectNa
         time += std::chrono::seconds(1);
         start = DateAndTime(time);
     }
-    return start + projectName + std::string(Extension);
+    return start + projectName + std::string(words::ProjectEnding);
 }
 
 /// A file that the user put into the folder under another name is none of the copies.
@@ -124,7 +124,7 @@ std::vector<Copy> CopiesByAge() {
     if (!folder) {
         return copies;
     }
-    for (const std::string& name : FileNamesIn(*folder, Extension)) {
+    for (const std::string& name : FileNamesIn(*folder, words::ProjectEnding)) {
         if (!IsCopyName(name)) {
             continue;
         }

@@ -5,11 +5,6 @@
 
 namespace tavmoor {
 
-/// The stored form of a caption that is blank on purpose.
-inline constexpr std::string_view EmptyCaptionToken = "#Empty#";
-/// The same caption in memory: two blanks, so that it looks blank and is not "".
-inline constexpr std::string_view EmptyCaption = "  ";
-
 /// Replaces each line feed, then each carriage return, then each ampersand by "Chr$(10)",
 /// "Chr$(13)" and "Chr$(38)", so that a text stands on one line of a file.
 std::string EncodeText(std::string_view text);

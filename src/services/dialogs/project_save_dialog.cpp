@@ -24,12 +24,12 @@ std::string CommonProjectSaveDialog::Show(std::string_view initialFolder, std::s
     return dialog_.FileName;
 }
 
-/// The save command adds the extension only to names that do not end in "tavp".
+/// Asks about the name that the save command will write.
 bool CommonProjectSaveDialog::MayBeReplaced() const {
-    if (dialog_.FileName.empty() || dialog_.FileName.ends_with("tavp")) {
+    if (dialog_.FileName.empty() || HasProjectEnding(dialog_.FileName)) {
         return true;
     }
-    const std::string written = dialog_.FileName + ".tavp";
+    const std::string written = dialog_.FileName + std::string(words::ProjectEnding);
     const auto native = FindNativePath(written);
     std::error_code ignored; // the save itself reports what is wrong with a path
     if (!native || !std::filesystem::exists(*native, ignored)) {

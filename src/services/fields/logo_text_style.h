@@ -10,10 +10,10 @@ namespace tavmoor {
 // The style and the effects of the logo text's font, which the project holds as words (`Stil` and
 // `Efekti`) and not as flags.
 
-/// "", "Bold" or "Italic"; there is no word for both, and italic wins.
+/// "", words::Bold or words::Italic; there is no word for both, and italic wins.
 std::string StyleWord(const FontSpec& font);
 
-/// "", "StrikeThru", "Underline" or "StrikeThru, Underline".
+/// "", one of the words::StrikeThru and words::Underline, or both with ", " between them.
 std::string EffectWords(const FontSpec& font);
 
 /// Sets the flags of a font from the two fields; other words set none.

@@ -1,5 +1,6 @@
 #include "services/richtext/rich_text_reader.h"
 
+#include "core/document/measures.h"
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
 #include "services/richtext/rich_text_parser.h"
@@ -19,8 +20,7 @@ namespace {
 constexpr std::uint64_t MostFileBytes = 16'000'000;
 
 double PixelsOf(int twips) {
-    constexpr double TwipsPerPixel = 15;
-    return twips / TwipsPerPixel;
+    return static_cast<double>(twips) / TwipsPerPixel;
 }
 
 /// The colour of a number; an invalid one for the window's own and for numbers beyond the table.

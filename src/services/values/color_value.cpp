@@ -8,8 +8,6 @@ namespace tavmoor {
 
 namespace {
 
-constexpr std::uint32_t SystemColorBit = 0x80000000;
-
 /// 0xRRGGBB by number of the system colour.
 constexpr std::array<QRgb, 25> SystemColors{
     0xC8C8C8, // scroll bar

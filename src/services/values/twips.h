@@ -1,13 +1,14 @@
 #pragma once
 
+#include "core/document/measures.h"
+
 #include <QPoint>
 #include <QSize>
 
 namespace tavmoor {
 
-/// Window measures are given in twips, 15 to the logical pixel. This is the one place that turns
-/// them into logical pixels and back; Qt scales those to the screen.
-inline constexpr int TwipsPerPixel = 15;
+// Window measures are given in twips. This is the one place that turns them into logical pixels and
+// back; Qt scales those to the screen.
 
 constexpr int PixelsOf(int twips) {
     return twips / TwipsPerPixel;

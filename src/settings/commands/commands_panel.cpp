@@ -79,8 +79,9 @@ constexpr int ColumnGap = 6;
 QComboBox* MakeTypeBox(const char* objectName, QWidget* parent) {
     auto* box = new QComboBox(parent);
     box->setObjectName(QString::fromLatin1(objectName));
-    box->addItems({QStringLiteral("Send mail"), QStringLiteral("Visit web page"),
-                   QStringLiteral("Run program"), QStringLiteral("Open file")});
+    for (const std::string_view kind : words::CommandKinds) {
+        box->addItem(ToQString(kind));
+    }
     return box;
 }
 

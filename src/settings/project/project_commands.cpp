@@ -18,8 +18,6 @@ namespace tavmoor {
 
 namespace {
 
-constexpr std::string_view OpenFilter = "Tavmoor project (.tavp)| *.tavp";
-
 std::vector<std::filesystem::path> RecoveryPlaces() {
     std::error_code error; // a place that is not there is not listed
     const auto folder = RecoveryFolder();
@@ -62,7 +60,7 @@ std::string ProjectCommands::AskForProject(std::string_view title, const std::st
     dialog_.FileTitle.clear();
     dialog_.InitDir = start;
     dialog_.DialogTitle = title;
-    dialog_.Filter = OpenFilter;
+    dialog_.Filter = words::ProjectFilter;
     dialog_.FilterIndex = 1;
     dialog_.SidebarFolders = RecoveryPlaces();
     dialog_.ShowOpen();

@@ -24,12 +24,6 @@ namespace tavmoor {
 
 namespace {
 
-/// The places of text and picture on a screen. The text of an entry is what the project keeps and
-/// what runtimes compare, its spelling included.
-constexpr std::array Positions{u"Top left",           u"Top right",    u"Top center",
-                               u"Botton left",        u"Bottom right", u"Bottom center",
-                               u"Centered on window!"};
-
 constexpr int PageStep = 10; // pixels
 constexpr int TimeWidth = 48;
 constexpr int FontSizeWidth = 56;
@@ -151,8 +145,8 @@ QLayout* ScreenPanel::MakeStyleRow() {
 QLayout* ScreenPanel::MakePosition(const NamedText& text, FieldOf<std::string> field) {
     auto* combo = new QComboBox(Body());
     combo->setObjectName(QString::fromLatin1(text.control));
-    for (const char16_t* position : Positions) {
-        combo->addItem(QString::fromUtf16(position));
+    for (const std::string_view place : words::ScreenPlaces) {
+        combo->addItem(ToQString(place));
     }
     Binder().Bind(*combo, field);
     auto* row = MakeRow();
@@ -266,7 +260,7 @@ void ScreenPanel::CheckTime() {
     const ScreenTime time = CheckScreenTime(FromQString(time_->text()));
     if (time.outOfRange) {
         // Stays for good, so that the limit is known from now on.
-        timeUnit_->setText(QStringLiteral("seconds(60 is maximum)"));
+        timeUnit_->setText(QStringLiteral("seconds(%1 is maximum)").arg(MostScreenSeconds));
     }
     fields_.time.In(Document()) = time.text;
     const bool replaced = FromQString(time_->text()) != time.text;

@@ -1,5 +1,6 @@
 #include "settings/screens/screen_time.h"
 
+#include "core/document/measures.h"
 #include "core/text/number_text.h"
 
 #include <cmath>
@@ -7,17 +8,16 @@
 namespace tavmoor {
 
 ScreenTime CheckScreenTime(std::string_view typed) {
-    constexpr const char* UsualSeconds = "5";
     const auto seconds = ParseNumber(typed);
     if (!seconds) {
-        return {UsualSeconds, false};
+        return {std::string(UsualScreenSecondsText), false};
     }
     if (*seconds > MostScreenSeconds || *seconds <= 0) {
-        return {UsualSeconds, true};
+        return {std::string(UsualScreenSecondsText), true};
     }
     // The half of the smallest number above zero is zero.
     if (*seconds / 2 <= 0) {
-        return {UsualSeconds, false};
+        return {std::string(UsualScreenSecondsText), false};
     }
     return {FormatNumber(std::floor(*seconds)), false};
 }
