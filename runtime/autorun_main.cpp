@@ -1,4 +1,4 @@
-#include "core/files/program_folder.h"
+#include "core/files/system_folders.h"
 #include "looks/looks.h"
 #include "window/menu_window.h"
 #include "window/package_fonts.h"
@@ -89,7 +89,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, LPSTR /*commandLi
                    int /*show*/) {
     std::wstring title = L"Autorun";
     try {
-        const std::filesystem::path program = tavmoor::PlatformProgramFile();
+        const std::filesystem::path program = tavmoor::ProgramFile();
         if (program.has_stem()) {
             title = program.stem().wstring();
         }

@@ -6,6 +6,7 @@
 #include "disc/build_driver.h"
 #include "disc/output_check.h"
 #include "open_project.h"
+#include "process.h"
 
 #include <optional>
 

@@ -5,6 +5,7 @@
 #include "core/files/runtime_error.h"
 #include "core/session/recovery_folder.h"
 #include "package/package_reader.h"
+#include "process.h"
 
 #include <CLI/CLI.hpp>
 

@@ -4,6 +4,7 @@
 #include "core/files/file_store.h"
 #include "open_project.h"
 #include "package/package_reader.h"
+#include "process.h"
 #include "templates/template_catalogue.h"
 #include "templates/template_descriptor.h"
 

@@ -1,12 +1,14 @@
-#include "core/files/document_path.h"
+#include "core/files/document_path_platform.h"
 
 #include "core/files/runtime_error.h"
 #include "core/text/code_page.h"
+#include "core/text/text_case.h"
 
 #include <algorithm>
 #include <clocale>
 #include <cwctype>
 #include <locale.h>
+#include <optional>
 #include <vector>
 
 namespace tavmoor {
@@ -15,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char RootDrive = 'Z';
+constexpr std::string_view RootDrive = "Z:";
 
 std::string FoldCase(std::string_view utf8) {
     static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -64,7 +66,7 @@ bool IsSeparator(char character) {
 /// Takes the drive off the path and gives the native folder that the rest starts from.
 fs::path TakeStart(std::string_view& path) {
     if (path.size() >= 2 && path[1] == ':') {
-        if (path[0] != RootDrive && path[0] != 'z') {
+        if (!EqualWithoutCase(path.substr(0, 2), RootDrive)) {
             throw RuntimeError(ErrorNumber::PathNotFound, path);
         }
         path.remove_prefix(2);
@@ -77,10 +79,7 @@ fs::path TakeStart(std::string_view& path) {
 }
 
 /// The parts of a path behind its start, in native form and without empty ones.
-std::vector<std::string> PartsOf(std::string_view rest, std::string_view whole) {
-    if (rest.find('\0') != std::string_view::npos) {
-        throw RuntimeError(ErrorNumber::BadFileName, whole);
-    }
+std::vector<std::string> PartsOf(std::string_view rest) {
     std::vector<std::string> parts;
     while (!rest.empty()) {
         const auto end = std::find_if(rest.begin(), rest.end(), IsSeparator);
@@ -96,10 +95,10 @@ std::vector<std::string> PartsOf(std::string_view rest, std::string_view whole) 
 
 } // namespace
 
-fs::path NativePath(std::string_view documentPath) {
+fs::path PlatformNativePath(std::string_view documentPath) {
     std::string_view rest = documentPath;
     const fs::path start = TakeStart(rest);
-    const std::vector<std::string> parts = PartsOf(rest, documentPath);
+    const std::vector<std::string> parts = PartsOf(rest);
     std::string exact = start.native();
     for (const std::string& part : parts) {
         exact.append(exact.empty() || exact == "/" ? "" : "/").append(part);
@@ -115,22 +114,16 @@ fs::path NativePath(std::string_view documentPath) {
     return native;
 }
 
-std::string DocumentPath(const fs::path& nativePath) {
-    const std::string& native = nativePath.native();
-    CodePageText text = SystemCodePage().FromUtf8(native);
-    const bool backslash = native.find('\\') != std::string::npos;
-    if (!text.unplaced.empty() || backslash) {
-        throw RuntimeError(ErrorNumber::BadFileName, text.bytes);
-    }
-    std::replace(text.bytes.begin(), text.bytes.end(), '/', '\\');
-    if (!text.bytes.empty() && text.bytes.front() == '\\') {
-        text.bytes.insert(0, {RootDrive, ':'});
-    }
-    return text.bytes;
+std::string PlatformPathText(const fs::path& nativePath) {
+    return nativePath.native();
 }
 
-bool SamePath(std::string_view a, std::string_view b) {
-    return FoldCase(SystemCodePage().ToUtf8(a)) == FoldCase(SystemCodePage().ToUtf8(b));
+std::string_view PlatformRootDrive() {
+    return RootDrive;
+}
+
+bool PlatformEqualWithoutCase(std::string_view a, std::string_view b) {
+    return FoldCase(a) == FoldCase(b);
 }
 
 } // namespace tavmoor

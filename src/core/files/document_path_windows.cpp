@@ -1,9 +1,8 @@
-#include "core/files/document_path.h"
+#include "core/files/document_path_platform.h"
 
 #include "core/files/runtime_error.h"
 #include "core/text/code_page.h"
 
-#include <algorithm>
 #include <system_error>
 #include <windows.h>
 
@@ -11,23 +10,7 @@ namespace tavmoor {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-/// A name may hold half a pair of UTF-16, which no other encoding can say.
-std::u8string Utf8Of(const fs::path& path) {
-    try {
-        return path.u8string();
-    } catch (const std::system_error&) {
-        throw RuntimeError(ErrorNumber::BadFileName, "");
-    }
-}
-
-} // namespace
-
-fs::path NativePath(std::string_view documentPath) {
-    if (documentPath.find('\0') != std::string_view::npos) {
-        throw RuntimeError(ErrorNumber::BadFileName, documentPath);
-    }
+fs::path PlatformNativePath(std::string_view documentPath) {
     std::wstring native;
     native.reserve(documentPath.size());
     for (const char byte : documentPath) {
@@ -37,22 +20,24 @@ fs::path NativePath(std::string_view documentPath) {
     return native;
 }
 
-std::string DocumentPath(const fs::path& nativePath) {
-    const std::u8string utf8 = Utf8Of(nativePath);
-    CodePageText text =
-        SystemCodePage().FromUtf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
-    if (!text.unplaced.empty()) {
-        throw RuntimeError(ErrorNumber::BadFileName, text.bytes);
+std::string PlatformPathText(const fs::path& nativePath) {
+    try {
+        const std::u8string utf8 = nativePath.u8string();
+        return {utf8.begin(), utf8.end()};
+    } catch (const std::system_error&) { // half a pair of UTF-16, which no other encoding can say
+        throw RuntimeError(ErrorNumber::BadFileName, "");
     }
-    std::replace(text.bytes.begin(), text.bytes.end(), '/', '\\');
-    return text.bytes;
 }
 
-bool SamePath(std::string_view a, std::string_view b) {
-    const auto left = FindNativePath(a);
-    const auto right = FindNativePath(b);
-    return left && right &&
-           CompareStringOrdinal(left->c_str(), -1, right->c_str(), -1, TRUE) == CSTR_EQUAL;
+std::string_view PlatformRootDrive() {
+    return {};
+}
+
+bool PlatformEqualWithoutCase(std::string_view a, std::string_view b) {
+    const std::wstring left = fs::path(std::u8string(a.begin(), a.end())).wstring();
+    const std::wstring right = fs::path(std::u8string(b.begin(), b.end())).wstring();
+    return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
+                                static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
 }
 
 } // namespace tavmoor

@@ -1,6 +1,7 @@
 #include "core/files/durable_file.h"
 
-#include <cerrno>
+#include "core/files/native_file.h"
+
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
@@ -11,21 +12,6 @@ namespace tavmoor {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::error_code LastError() {
-    return {errno, std::generic_category()};
-}
-
-std::error_code WriteAll(int file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) {
-            return LastError();
-        }
-        bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-    }
-    return {};
-}
 
 mode_t ModeOf(const fs::path& target) {
     struct stat old {};
@@ -52,7 +38,7 @@ std::error_code FillAndFlush(int file, mode_t mode, std::string_view bytes) {
         return error;
     }
     if (fchmod(file, mode) != 0 || fsync(file) != 0) {
-        return LastError();
+        return LastNativeError();
     }
     return {};
 }
@@ -80,14 +66,14 @@ std::error_code ReplaceFileDurably(const fs::path& target, std::string_view byte
     std::string fresh = (real.parent_path() / ".tavmoor-XXXXXX").string();
     const int file = mkostemp(fresh.data(), O_CLOEXEC);
     if (file < 0) {
-        return LastError();
+        return LastNativeError();
     }
     std::error_code error = FillAndFlush(file, ModeOf(real), bytes);
     if (close(file) != 0 && !error) {
-        error = LastError();
+        error = LastNativeError();
     }
     if (!error && rename(fresh.c_str(), real.c_str()) != 0) {
-        error = LastError();
+        error = LastNativeError();
     }
     if (error) {
         unlink(fresh.c_str());

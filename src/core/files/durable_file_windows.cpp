@@ -1,6 +1,7 @@
 #include "core/files/durable_file.h"
 
-#include <algorithm>
+#include "core/files/native_file.h"
+
 #include <string>
 #include <windows.h>
 
@@ -10,21 +11,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::error_code LastError() {
-    return {static_cast<int>(GetLastError()), std::system_category()};
-}
-
-std::error_code WriteAll(HANDLE file, std::string_view bytes) {
-    constexpr std::size_t block = 1U << 20U;
-    while (!bytes.empty()) {
-        DWORD written = 0;
-        const auto count = static_cast<DWORD>(std::min(bytes.size(), block));
-        if (WriteFile(file, bytes.data(), count, &written, nullptr) == 0) {
-            return LastError();
-        }
-        bytes.remove_prefix(written);
+std::error_code FillAndFlush(HANDLE file, std::string_view bytes) {
+    if (const std::error_code error = WriteAll(reinterpret_cast<NativeFile>(file), bytes)) {
+        return error;
     }
-    return FlushFileBuffers(file) != 0 ? std::error_code() : LastError();
+    return FlushFileBuffers(file) != 0 ? std::error_code() : LastNativeError();
 }
 
 } // namespace
@@ -35,13 +26,13 @@ std::error_code ReplaceFileDurably(const fs::path& target, std::string_view byte
     HANDLE file = CreateFileW(fresh.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
-        return LastError();
+        return LastNativeError();
     }
-    std::error_code error = WriteAll(file, bytes);
+    std::error_code error = FillAndFlush(file, bytes);
     CloseHandle(file);
     if (!error && MoveFileExW(fresh.c_str(), target.c_str(),
                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-        error = LastError();
+        error = LastNativeError();
     }
     if (error) {
         DeleteFileW(fresh.c_str());

@@ -6,7 +6,6 @@
 namespace tavmoor {
 
 /// Copies a file over another one, or to a place where none lies, with the platform's own means.
-std::error_code PlatformCopyFile(const std::filesystem::path& from,
-                                 const std::filesystem::path& to);
+std::error_code CopyNativeFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 } // namespace tavmoor

@@ -112,7 +112,7 @@ void DeleteFileIgnoringErrors(std::string_view path) {
 bool CopyFileIgnoringErrors(std::string_view from, std::string_view to) {
     const auto source = FindNativePath(from);
     const auto target = FindNativePath(to);
-    return source && target && !PlatformCopyFile(*source, *target);
+    return source && target && !CopyNativeFile(*source, *target);
 }
 
 bool MoveFileIgnoringErrors(std::string_view from, std::string_view to) {
@@ -128,7 +128,7 @@ bool MoveFileIgnoringErrors(std::string_view from, std::string_view to) {
             return true;
         }
     }
-    return !PlatformCopyFile(*source, *target);
+    return !CopyNativeFile(*source, *target);
 }
 
 std::vector<std::string> FileNamesIn(std::string_view folder, std::string_view extension) {

@@ -1,6 +1,7 @@
 #include "core/files/program_folder.h"
 
 #include "core/files/document_path.h"
+#include "core/files/system_folders.h"
 
 namespace tavmoor {
 
@@ -11,24 +12,24 @@ constexpr const char* OwnFolder = "tavmoor";
 } // namespace
 
 std::string ProgramFolder() {
-    return DocumentPath(PlatformProgramFile().parent_path());
+    return DocumentPath(ProgramFile().parent_path());
 }
 
 std::string ProgramSettingsPath(const std::string& programFolder) {
     const auto native = FindNativePath(programFolder);
     const std::string folder =
-        native && PlatformCanWriteFolder(*native)
+        native && CanWriteFolder(*native)
             ? programFolder
-            : FindDocumentPath(PlatformConfigurationFolder() / OwnFolder).value_or(programFolder);
+            : FindDocumentPath(ProgramConfigurationFolder()).value_or(programFolder);
     return WithBackslash(folder) + "tavmoor.ini";
 }
 
-std::string UserDataFolder() {
-    return DocumentPath(ProgramDataFolder());
+std::filesystem::path ProgramConfigurationFolder() {
+    return UserConfigurationFolder() / OwnFolder;
 }
 
 std::filesystem::path ProgramDataFolder() {
-    return PlatformDataFolder() / OwnFolder;
+    return UserDataFolder() / OwnFolder;
 }
 
 } // namespace tavmoor

@@ -13,16 +13,10 @@ std::string ProgramFolder();
 /// user's configuration folder. When the document cannot say that one, the write at the end fails.
 std::string ProgramSettingsPath(const std::string& programFolder);
 
-/// The user's folder for this program's data (recovered projects), in document form.
-std::string UserDataFolder();
-/// The same in native form.
+/// The user's folder for this program's settings, in native form.
+std::filesystem::path ProgramConfigurationFolder();
+
+/// The user's folder for this program's data (recovered projects), in native form.
 std::filesystem::path ProgramDataFolder();
-
-// One file per platform answers these, in native form.
-
-std::filesystem::path PlatformProgramFile();
-bool PlatformCanWriteFolder(const std::filesystem::path& folder);
-std::filesystem::path PlatformConfigurationFolder();
-std::filesystem::path PlatformDataFolder();
 
 } // namespace tavmoor

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/files/native_file.h"
 #include "core/files/sequential_output.h"
 
 namespace tavmoor {
@@ -12,13 +13,13 @@ public:
     ~Platform() { Close(); }
 
     std::error_code Open(const std::filesystem::path& path, std::uint64_t expectedSize);
-    std::error_code Write(std::string_view bytes);
+    std::error_code Write(std::string_view bytes) { return WriteAll(file_, bytes); }
     std::error_code Close();
 
 private:
-    static constexpr std::intptr_t NoFile = -1; ///< of both platforms
+    static constexpr NativeFile NoFile = -1; ///< of both platforms
 
-    std::intptr_t file_ = NoFile;
+    NativeFile file_ = NoFile;
 };
 
 } // namespace tavmoor

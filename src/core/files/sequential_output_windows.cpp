@@ -6,10 +6,6 @@ namespace tavmoor {
 
 namespace {
 
-std::error_code LastError() {
-    return {static_cast<int>(GetLastError()), std::system_category()};
-}
-
 HANDLE HandleOf(std::intptr_t file) {
     return reinterpret_cast<HANDLE>(file);
 }
@@ -21,19 +17,7 @@ std::error_code SequentialOutput::Platform::Open(const std::filesystem::path& pa
     // Space asked for in advance would have to be filled with zeros first.
     file_ = reinterpret_cast<std::intptr_t>(CreateFileW(
         path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    return file_ == NoFile ? LastError() : std::error_code();
-}
-
-std::error_code SequentialOutput::Platform::Write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        DWORD written = 0;
-        if (WriteFile(HandleOf(file_), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
-                      nullptr) == 0) {
-            return LastError();
-        }
-        bytes.remove_prefix(written);
-    }
-    return {};
+    return file_ == NoFile ? LastNativeError() : std::error_code();
 }
 
 std::error_code SequentialOutput::Platform::Close() {
@@ -42,7 +26,7 @@ std::error_code SequentialOutput::Platform::Close() {
     }
     const HANDLE file = HandleOf(file_);
     file_ = NoFile;
-    return CloseHandle(file) == 0 ? LastError() : std::error_code();
+    return CloseHandle(file) == 0 ? LastNativeError() : std::error_code();
 }
 
 } // namespace tavmoor

@@ -1,8 +1,8 @@
 #include "services/dialogs/common_dialog.h"
 
 #include "core/files/document_path.h"
-#include "core/files/program_folder.h"
 #include "core/files/runtime_error.h"
+#include "core/files/system_folders.h"
 #include "core/text/value_encoding.h"
 #include "services/dialogs/custom_colors.h"
 #include "services/dialogs/message_box.h"
@@ -56,7 +56,7 @@ Beginning BeginningFor(const std::string& initDir) {
     if (auto asked = FindBeginning(initDir)) {
         return *asked;
     }
-    return {PlatformProgramFile().parent_path(), {}};
+    return {ProgramFile().parent_path(), {}};
 }
 
 QString ExtensionWithoutDot(const std::string& extension) {

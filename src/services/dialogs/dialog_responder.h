@@ -109,7 +109,7 @@ public:
     virtual void About(const AboutRequest& request) = 0;
     /// The icon of a file in a size, 16 or 32 pixels; a null icon when the file has none.
     virtual QIcon FileIcon(const QString& path, int size) = 0;
-    /// As ShowPlatformShellDialog.
+    /// As tavmoor::ShowShellDialog.
     virtual bool Shell(const ShellRequest& request) = 0;
 
 protected:

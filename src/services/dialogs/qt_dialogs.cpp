@@ -201,7 +201,7 @@ QIcon QtDialogs::FileIcon(const QString& path, int size) {
 }
 
 bool QtDialogs::Shell(const ShellRequest& request) {
-    return ShowPlatformShellDialog(request);
+    return tavmoor::ShowShellDialog(request);
 }
 
 DialogResponder& Dialogs() {

@@ -31,6 +31,6 @@ struct ShellRequest {
 
 /// Shows a dialog of the system's shell. Some of them return before they are closed.
 /// @return false when this system has no such dialog or refused to show it; nothing happened then
-bool ShowPlatformShellDialog(const ShellRequest& request);
+bool ShowShellDialog(const ShellRequest& request);
 
 } // namespace tavmoor

@@ -1,5 +1,7 @@
 #include "services/pictures/child_work_posix.h"
 
+#include "core/files/native_file.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -34,17 +36,6 @@ rlim_t SizeOfProcess() {
     rlim_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
     return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
-}
-
-bool WriteAll(int file, const std::string& bytes) {
-    for (std::size_t done = 0; done < bytes.size();) {
-        const ssize_t count = write(file, bytes.data() + done, bytes.size() - done);
-        if (count < 0 && errno != EINTR) {
-            return false;
-        }
-        done += count > 0 ? static_cast<std::size_t>(count) : 0;
-    }
-    return true;
 }
 
 /// Ends this process as soon as its parent does, which alone watches over its time.
@@ -87,7 +78,7 @@ int KeepStandardFilesAnd(int output) {
     }
     output = KeepStandardFilesAnd(output);
     try {
-        _exit(WriteAll(output, work()) ? 0 : 1);
+        _exit(WriteAll(output, work()) ? 1 : 0);
     } catch (...) {
         _exit(1);
     }

@@ -51,7 +51,4 @@ protected:
 /// user's configuration folder.
 RegistryStore& SystemRegistry();
 
-/// One file per platform.
-RegistryStore& PlatformRegistry();
-
 } // namespace tavmoor

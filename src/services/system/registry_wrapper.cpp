@@ -1,7 +1,5 @@
 #include "services/system/registry_wrapper.h"
 
-#include "services/system/service_slot.h"
-
 #include <array>
 #include <utility>
 
@@ -20,11 +18,6 @@ std::optional<RegistryKey> KeyOf(std::string_view path) {
 }
 
 } // namespace
-
-RegistryStore& SystemRegistry() {
-    auto* replacement = ServiceSlot<RegistryStore>::Replacement();
-    return replacement != nullptr ? *replacement : PlatformRegistry();
-}
 
 RegistryRoot Model1::RootByName(std::string_view name) {
     static constexpr std::array<std::pair<std::string_view, RegistryRoot>, 7> roots{{

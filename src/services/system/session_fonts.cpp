@@ -2,6 +2,7 @@
 
 #include "core/files/document_path.h"
 #include "services/system/service_slot.h"
+#include "services/system/session_fonts_platform.h"
 #include "services/values/native_path_text.h"
 
 #include <QFontDatabase>

@@ -29,8 +29,4 @@ protected:
 void AddSessionFontsIgnoringErrors(std::span<const std::string> paths);
 void RemoveSessionFontsIgnoringErrors(std::span<const std::string> paths);
 
-/// What the system does beyond this program; one file per platform. False when it refuses.
-bool PlatformAddFont(const std::filesystem::path& file);
-bool PlatformRemoveFont(const std::filesystem::path& file);
-
 } // namespace tavmoor

@@ -1,4 +1,4 @@
-#include "services/system/session_fonts.h"
+#include "services/system/session_fonts_platform.h"
 
 namespace tavmoor {
 

@@ -2,7 +2,9 @@
 
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
+#include "core/files/runtime_error.h"
 #include "services/system/service_slot.h"
+#include "services/system/shell_platform.h"
 #include "services/values/qt_text.h"
 
 #include <QUrl>
@@ -21,6 +23,10 @@ bool IsWebAddress(const QUrl& url) {
 }
 
 } // namespace
+
+ShellOutcome FileMissing(std::string_view path) {
+    return {false, std::string(ErrorText(ErrorNumber::FileNotFound)) + ": " + std::string(path)};
+}
 
 Shell& SystemShell() {
     auto* replacement = ServiceSlot<Shell>::Replacement();

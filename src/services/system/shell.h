@@ -51,7 +51,4 @@ ShellOutcome WriteMail(std::string_view address, std::string_view subject);
 /// start page "help\index.html" there.
 ShellOutcome OpenHelp(std::string_view programFolder);
 
-/// The shell of the platform; one file per platform.
-Shell& PlatformShell();
-
 } // namespace tavmoor

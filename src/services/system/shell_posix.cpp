@@ -1,8 +1,7 @@
 #include "core/files/document_path.h"
-#include "core/files/runtime_error.h"
 #include "core/text/code_page.h"
 #include "core/text/text_case.h"
-#include "services/system/shell.h"
+#include "services/system/shell_platform.h"
 #include "services/values/native_path_text.h"
 #include "services/values/qt_text.h"
 
@@ -22,10 +21,6 @@ namespace fs = std::filesystem;
 
 ShellOutcome Failure(std::string_view path, std::string_view reason) {
     return {false, "\"" + std::string(path) + "\" " + std::string(reason)};
-}
-
-ShellOutcome FileMissing(std::string_view path) {
-    return {false, std::string(ErrorText(ErrorNumber::FileNotFound)) + ": " + std::string(path)};
 }
 
 /// The native path of something that exists; nothing otherwise.

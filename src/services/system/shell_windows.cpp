@@ -1,7 +1,6 @@
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
-#include "core/files/runtime_error.h"
-#include "services/system/shell.h"
+#include "services/system/shell_platform.h"
 #include "services/values/wide_text_windows.h"
 
 #include <array>
@@ -60,10 +59,6 @@ ShellOutcome Execute(std::string_view shown, const std::wstring& file,
                            "\" cannot be opened: " + SystemMessage(GetLastError())};
     }
     return {};
-}
-
-ShellOutcome FileMissing(std::string_view path) {
-    return {false, std::string(ErrorText(ErrorNumber::FileNotFound)) + ": " + std::string(path)};
 }
 
 class WindowsShell final : public Shell {

@@ -1,5 +1,6 @@
 #include "services/system/autorun_check.h"
 
+#include "services/system/registry_store_platform.h"
 #include "services/system/registry_wrapper.h"
 #include "support/temporary_folder.h"
 

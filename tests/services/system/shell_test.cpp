@@ -1,4 +1,4 @@
-#include "services/system/shell.h"
+#include "services/system/shell_platform.h"
 
 #include "core/text/maker.h"
 #include "services/values/qt_text.h"

@@ -1,6 +1,6 @@
 #include "core/files/durable_file.h"
 #include "core/files/program_folder.h"
-#include "services/system/registry_store.h"
+#include "services/system/registry_store_platform.h"
 #include "services/values/native_path_text.h"
 
 #include <QFile>
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 class RegistryFile {
 public:
     /// Reads the file; one that is missing has no keys.
-    RegistryFile() : path_(PlatformConfigurationFolder() / "tavmoor" / "registry.json") {
+    RegistryFile() : path_(ProgramConfigurationFolder() / "registry.json") {
         QFile file(NativePathText(path_));
         if (!file.exists()) {
             readable_ = true;

@@ -1,4 +1,4 @@
-#include "core/files/program_folder.h"
+#include "core/files/system_folders.h"
 
 #include "core/files/runtime_error.h"
 
@@ -23,7 +23,7 @@ fs::path HomeFolder(const char* variable, const char* below) {
 
 } // namespace
 
-fs::path PlatformProgramFile() {
+fs::path ProgramFile() {
     std::error_code error;
     fs::path file = fs::read_symlink("/proc/self/exe", error);
     if (error) {
@@ -32,15 +32,15 @@ fs::path PlatformProgramFile() {
     return file;
 }
 
-bool PlatformCanWriteFolder(const fs::path& folder) {
+bool CanWriteFolder(const fs::path& folder) {
     return access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
-fs::path PlatformConfigurationFolder() {
+fs::path UserConfigurationFolder() {
     return HomeFolder("XDG_CONFIG_HOME", ".config");
 }
 
-fs::path PlatformDataFolder() {
+fs::path UserDataFolder() {
     return HomeFolder("XDG_DATA_HOME", ".local/share");
 }
 

@@ -2,7 +2,7 @@
 
 namespace tavmoor {
 
-bool ShowPlatformShellDialog(const ShellRequest& /*request*/) {
+bool ShowShellDialog(const ShellRequest& /*request*/) {
     return false;
 }
 

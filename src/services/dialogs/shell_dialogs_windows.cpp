@@ -76,7 +76,7 @@ bool ShowFormat(HWND owner, const std::filesystem::path& path) {
 
 } // namespace
 
-bool ShowPlatformShellDialog(const ShellRequest& request) {
+bool ShowShellDialog(const ShellRequest& request) {
     const auto owner = reinterpret_cast<HWND>(request.owner); // NOLINT(performance-no-int-to-ptr)
     switch (request.dialog) {
     case ShellDialog::Help:

@@ -1,5 +1,6 @@
-#include "console.h"
+#include "process.h"
 
+#include "console.h"
 #include "core/files/build_folder.h"
 #include "core/files/document_path.h"
 

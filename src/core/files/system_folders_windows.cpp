@@ -1,4 +1,4 @@
-#include "core/files/program_folder.h"
+#include "core/files/system_folders.h"
 
 #include "core/files/runtime_error.h"
 
@@ -24,7 +24,7 @@ fs::path ShellFolder(int folder) {
 
 } // namespace
 
-fs::path PlatformProgramFile() {
+fs::path ProgramFile() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
         const DWORD length =
@@ -40,7 +40,7 @@ fs::path PlatformProgramFile() {
     }
 }
 
-bool PlatformCanWriteFolder(const fs::path& folder) {
+bool CanWriteFolder(const fs::path& folder) {
     // The access rights alone do not tell: only making a file does.
     const std::wstring probe =
         (folder / (L"tavmoor" + std::to_wstring(GetCurrentProcessId()) + L".tmp")).wstring();
@@ -53,11 +53,11 @@ bool PlatformCanWriteFolder(const fs::path& folder) {
     return true;
 }
 
-fs::path PlatformConfigurationFolder() {
+fs::path UserConfigurationFolder() {
     return ShellFolder(CSIDL_APPDATA);
 }
 
-fs::path PlatformDataFolder() {
+fs::path UserDataFolder() {
     return ShellFolder(CSIDL_LOCAL_APPDATA);
 }
 

@@ -1,4 +1,4 @@
-#include "services/system/registry_store.h"
+#include "services/system/registry_store_platform.h"
 #include "services/values/wide_text_windows.h"
 
 #include <array>
