@@ -6,6 +6,7 @@
 #include "core/text/value_encoding.h"
 #include "services/dialogs/custom_colors.h"
 #include "services/dialogs/message_box.h"
+#include "services/system/wait_loop.h"
 #include "services/values/color_value.h"
 #include "services/values/native_path_text.h"
 #include "services/values/qt_text.h"
@@ -260,6 +261,7 @@ void CommonDialog::Shell(ShellDialog dialog, std::string_view path) {
     request.command = static_cast<std::uint32_t>(HelpCommand);
     request.key = ToQString(HelpKey).toStdWString();
     request.flags = static_cast<std::uint32_t>(flags);
+    const RunningLoop running; // of the shell
     if (!Dialogs().Shell(request)) {
         ShowMessageBox(hOwner, {QStringLiteral("The \"%1\" dialog is not available on this system.")
                                     .arg(NameOf(dialog)),

@@ -1,5 +1,6 @@
 #include "services/dialogs/message_box.h"
 
+#include "services/dialogs/run_dialog.h"
 #include "services/look/artwork.h"
 #include "services/look/theme.h"
 #include "services/system/service_slot.h"
@@ -88,7 +89,7 @@ BoxAnswer ShowMessageBox(QWidget* owner, const MessageBoxRequest& request) {
     box.setText(request.text);
     box.setStandardButtons(ButtonsOf(request.buttons));
     box.setEscapeButton(EscapeButtonOf(request.buttons));
-    return AnswerOf(box.exec());
+    return AnswerOf(RunDialog(box));
 }
 
 bool AskYesNo(QWidget* owner, const QString& text, const QString& title) {

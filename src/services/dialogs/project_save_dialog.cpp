@@ -2,9 +2,8 @@
 
 #include "core/files/document_path.h"
 #include "services/dialogs/message_box.h"
+#include "services/system/wait_loop.h"
 #include "services/values/qt_text.h"
-
-#include <QCoreApplication>
 
 namespace tavmoor {
 
@@ -42,7 +41,7 @@ bool CommonProjectSaveDialog::MayBeReplaced() const {
 }
 
 void CommonProjectSaveDialog::LetEventsRun() {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    LetEventsRunWithoutInput();
 }
 
 } // namespace tavmoor

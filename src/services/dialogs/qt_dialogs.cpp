@@ -2,6 +2,7 @@
 
 #include "core/files/document_path.h"
 #include "services/dialogs/font_dialog.h"
+#include "services/dialogs/run_dialog.h"
 #include "services/pictures/picture_loader.h"
 #include "services/system/service_slot.h"
 #include "services/values/file_filter.h"
@@ -101,7 +102,7 @@ std::optional<FileAnswer> AskForFile(const FileRequest& request, QFileDialog::Ac
     if (!request.file.isEmpty()) {
         dialog.selectFile(request.file);
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
     return FileAnswer{QDir::toNativeSeparators(dialog.selectedFiles().constFirst()),
@@ -130,7 +131,7 @@ std::optional<QString> QtDialogs::Folder(const FolderRequest& request) {
     if (!request.folder.isEmpty()) {
         dialog.setDirectory(request.folder);
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
     return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
@@ -144,7 +145,7 @@ std::optional<ColorAnswer> QtDialogs::Color(const ColorRequest& request) {
     dialog.setObjectName(QStringLiteral("ColorDialog"));
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     SetTitle(dialog, request.title);
-    if (dialog.exec() != QDialog::Accepted) {
+    if (RunDialog(dialog) != QDialog::Accepted) {
         return std::nullopt;
     }
     ColorAnswer answer{dialog.selectedColor(), {}};
@@ -157,7 +158,7 @@ std::optional<ColorAnswer> QtDialogs::Color(const ColorRequest& request) {
 std::optional<FontChoice> QtDialogs::Font(const FontRequest& request) {
     FontDialog dialog(request.font, request.owner);
     SetTitle(dialog, request.title);
-    if (dialog.exec() != QDialog::Accepted) {
+    if (RunDialog(dialog) != QDialog::Accepted) {
         return std::nullopt;
     }
     return dialog.Choice();
@@ -168,7 +169,7 @@ bool QtDialogs::Printer(const PrinterRequest& request) {
     QPrintDialog dialog(&printer, request.owner);
     dialog.setObjectName(QStringLiteral("PrintDialog"));
     SetTitle(dialog, request.title);
-    return dialog.exec() == QDialog::Accepted;
+    return RunDialog(dialog) == QDialog::Accepted;
 }
 
 void QtDialogs::About(const AboutRequest& request) {
@@ -187,7 +188,7 @@ void QtDialogs::About(const AboutRequest& request) {
     layout->addWidget(icon, 0, 0, Qt::AlignTop);
     layout->addWidget(text, 0, 1);
     layout->addWidget(buttons, 1, 0, 1, 2);
-    dialog.exec();
+    RunDialog(dialog);
 }
 
 QIcon QtDialogs::FileIcon(const QString& path, int size) {

@@ -1,8 +1,7 @@
 #include "services/system/autorun_check.h"
 
 #include "services/system/registry_wrapper.h"
-
-#include <QCoreApplication>
+#include "services/system/wait_loop.h"
 
 namespace tavmoor {
 
@@ -30,7 +29,7 @@ bool CheckAutorunStatus(RegistryStore& store) {
     bool changed = false;
     if (!Holds(registry, DriverKey, DriverValue, "1")) {
         registry.CreateKeyIgnoringErrors(DriverKey);
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        LetEventsRunWithoutInput();
         registry.SetNumberIgnoringErrors(DriverKey, DriverValue, 1);
         changed = true;
     }

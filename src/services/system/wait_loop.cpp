@@ -69,6 +69,11 @@ void LetEventsRun() {
     QCoreApplication::processEvents();
 }
 
+void LetEventsRunWithoutInput() {
+    const RunningLoop running;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void DeleteAfterWaits(QObject& object) {
     if (loopsRunning > 0) {
         deletedAfterWaits.emplace_back(&object);

@@ -23,8 +23,11 @@ void WaitFor(std::chrono::milliseconds time);
 
 /// Lets the pending events run once.
 void LetEventsRun();
+/// The same, while the user's keys and clicks wait.
+void LetEventsRunWithoutInput();
 
-/// Marks a loop of one's own for DeleteAfterWaits, for as long as it runs.
+/// Marks another loop, such as a dialog's, for DeleteAfterWaits, for as long as it runs. Every
+/// place that lets events run within a handler has one.
 class RunningLoop {
 public:
     RunningLoop();
@@ -33,8 +36,9 @@ public:
     ~RunningLoop();
 };
 
-/// Deletes an object once control is back in the event loop, below every loop of these that runs
-/// now: a plain deleteLater may take the object away from code that waits in one of its handlers.
+/// Deletes an object once control is back in the program's own event loop, below every loop that
+/// runs now: a plain deleteLater may take the object away from code that waits in one of its
+/// handlers.
 void DeleteAfterWaits(QObject& object);
 
 /// Ends all loops, and each later one at once; called when the main window unloads.

@@ -2,10 +2,9 @@
 
 #include "services/dialogs/message_box.h"
 #include "services/system/session_fonts.h"
+#include "services/system/wait_loop.h"
 #include "services/values/qt_text.h"
 #include "settings/template/template_capabilities.h"
-
-#include <QCoreApplication>
 
 namespace tavmoor {
 
@@ -19,7 +18,7 @@ void ProjectListener::FontRead(std::string_view path) {
 }
 
 void ProjectListener::LetEventsRun() {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    LetEventsRunWithoutInput();
 }
 
 void ProjectListener::ApplyTemplateCapabilities() {

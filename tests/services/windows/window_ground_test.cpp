@@ -1,5 +1,6 @@
 #include "core/text/code_page.h"
 #include "services/dialogs/message_box.h"
+#include "services/dialogs/qt_dialogs.h"
 #include "services/system/wait_loop.h"
 #include "services/windows/program_session.h"
 #include "services/windows/skinned_window.h"
@@ -130,17 +131,43 @@ TEST_F(WindowGround, WaitLoopsNestAndEndWithTheirWindowOrTheProgram) {
     EXPECT_FALSE(WaitUntil([] { return false; }, &second));
 }
 
-TEST_F(WindowGround, AWindowOutlivesTheCodeThatWaitsInIt) {
-    const QPointer<SkinnedWindow> window(&windows.Open(WindowName::Form9));
-    bool outlivedTheWait = false;
-    QTimer::singleShot(0, window, [&] {
-        QTimer::singleShot(0, window, [&] { window->Unload(); });
-        WaitFor(std::chrono::milliseconds(20));
-        LetEventsRun();
-        outlivedTheWait = !window.isNull();
-    });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
-    EXPECT_TRUE(outlivedTheWait);
+TEST_F(WindowGround, AWindowOutlivesTheHandlerThatLetsEventsRun) {
+    const auto twice = [](void (*letRun)()) {
+        return [letRun](QWidget&) {
+            letRun();
+            letRun();
+        };
+    };
+    const std::pair<const char*, std::function<void(QWidget&)>> waits[] = {
+        {"time", [](QWidget&) { WaitFor(std::chrono::milliseconds(20)); }},
+        {"events", twice(&LetEventsRun)},
+        {"events but input", twice(&LetEventsRunWithoutInput)},
+        {"box",
+         [](QWidget& window) {
+             ShowMessageBox(&window, {QStringLiteral("text"), {}});
+         }},
+        {"dialog", [](QWidget& window) {
+             QtDialogs().About({&window, {}, {}, {}});
+         }}};
+    for (const auto& [name, wait] : waits) {
+        const QPointer<SkinnedWindow> window(&windows.Open(WindowName::Form9));
+        bool outlivedTheWait = false;
+        QTimer::singleShot(0, window, [&, &wait = wait] {
+            QTimer::singleShot(0, window, [&] {
+                window->Unload();
+                // What is open stays so until a deletion would have taken place.
+                QTimer::singleShot(20, qApp, [] {
+                    if (QWidget* dialog = QApplication::activeModalWidget()) {
+                        dialog->close();
+                    }
+                });
+            });
+            wait(*window);
+            outlivedTheWait = !window.isNull();
+        });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); })) << name;
+        EXPECT_TRUE(outlivedTheWait) << name;
+    }
 }
 
 TEST_F(WindowGround, WhatIsKeptOnTopMakesWayForDialogs) {
