@@ -1,6 +1,5 @@
 #include "settings/main/settings_window_list.h"
 
-#include "services/shared/picture_preview_window.h"
 #include "services/shared/service_window_list.h"
 #include "settings/commands/command_descriptions_window.h"
 #include "settings/final_step/build_window.h"
@@ -15,7 +14,6 @@ namespace tavmoor {
 void RegisterSettingsWindows(ProgramContext context) {
     RegisterServiceWindows(context);
     Register<Form1>(context, WindowName::Form1);
-    Register<Form2>(context, WindowName::Form2);
     Register<Form7>(context, WindowName::Form7);
     Register<Form3>(context, WindowName::Form3);
     Register<Form5>(context, WindowName::Form5);

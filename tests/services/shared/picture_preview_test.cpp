@@ -1,14 +1,14 @@
 #include "services/shared/picture_preview_window.h"
 
-#include "support/program_windows.h"
 #include "support/recording_shell.h"
+#include "support/service_windows.h"
 
 #include <QCheckBox>
 #include <QImage>
 
 namespace tavmoor {
 
-class PicturePreview : public test::ProgramWindows {
+class PicturePreview : public test::ServiceWindows {
 protected:
     PicturePreview() { session.settings.previewPictures = true; }
 
@@ -19,10 +19,10 @@ protected:
         return folder.Document(name);
     }
     void Preview(const std::string& path) {
-        Main();
-        windows.Main()->ShowPicturePreview(path);
+        ShowPreview(Context(), path, MainGeometry);
         Settle();
     }
+    static constexpr QRect MainGeometry{10, 20, 930, 600};
 };
 
 TEST(PreviewSize, OnlyTheLongerSideIsBound) {
@@ -36,15 +36,13 @@ TEST(PreviewSize, OnlyTheLongerSideIsBound) {
 }
 
 TEST_F(PicturePreview, StandsAtTheLowerRightCornerOfTheMainWindow) {
-    Main().move(10, 20);
     Preview(WritePicture("wide.png", {600, 200}));
     SkinnedWindow* form = Shown(WindowName::Form2);
     ASSERT_NE(form, nullptr);
     EXPECT_TRUE(form->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     // 250 twips are 16 2/3 pixels.
-    const QRect main = Main().geometry();
-    EXPECT_EQ(form->geometry().right(), main.right() - 17);
-    EXPECT_EQ(form->geometry().bottom(), main.bottom() - 17);
+    EXPECT_EQ(form->geometry().right(), MainGeometry.right() - 17);
+    EXPECT_EQ(form->geometry().bottom(), MainGeometry.bottom() - 17);
     const QWidget& image = Find(*form, "Image1");
     EXPECT_EQ(image.size(), QSize(297, 99));
     const int left = image.mapTo(form, QPoint()).x();

@@ -1,9 +1,9 @@
-#include "support/program_windows.h"
-
 #include "services/colors/color_pick.h"
+
 #include "services/colors/color_picture_view.h"
 #include "services/system/wait_loop.h"
 #include "services/values/native_path_text.h"
+#include "support/service_windows.h"
 
 #include <QApplication>
 #include <QImage>
@@ -13,13 +13,12 @@
 
 namespace tavmoor {
 
-class ColorTools : public test::ProgramWindows {
+class ColorTools : public test::ServiceWindows {
 protected:
     /// Begins a colour choice, and does something while it waits.
     std::optional<ColorValue> PickWhile(const std::function<void()>& act) {
-        auto& main = Main();
-        QTimer::singleShot(0, &main, act);
-        return PickColor(Context(), {20, 20}, main);
+        QTimer::singleShot(0, &asking_, act);
+        return PickColor(Context(), {20, 20}, asking_);
     }
     void TakeWay(const char* entry) { Click(*Shown(WindowName::menu2), entry); }
 
@@ -43,6 +42,7 @@ protected:
     static constexpr ColorValue Red = 0x0000FF;
     static constexpr ColorValue Blue = 0xFF0000;
     test::ScriptedDialogs dialogs;
+    QWidget asking_;
 };
 
 TEST_F(ColorTools, ThePaletteGivesAColorOrNone) {
@@ -89,7 +89,6 @@ TEST_F(ColorTools, ASecondChoiceEndsTheFirst) {
 
 TEST_F(ColorTools, ToolsGoWithTheWindowThatAsked) {
     dialogs.AnswerFile(WritePicture());
-    Main();
     QWidget asking;
     QTimer::singleShot(0, &asking, [&] {
         OpenPicture();
