@@ -8,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tavmoor::test {
@@ -37,8 +39,9 @@ public:
     }
     std::deque<std::optional<QColor>> colors;
     std::deque<std::optional<FontChoice>> fonts;
-    bool hasShell = false; ///< what Shell answers
-    QIcon icon;            ///< what FileIcon answers
+    std::function<void()> whileOpen; ///< runs in the next open or colour dialog
+    bool hasShell = false;           ///< what Shell answers
+    QIcon icon;                      ///< what FileIcon answers
 
     std::vector<FileRequest> opened;
     std::vector<FileRequest> saved;
@@ -52,6 +55,7 @@ public:
 
     std::optional<FileAnswer> OpenFile(const FileRequest& request) override {
         opened.push_back(request);
+        RunWhileOpen();
         return NextFile();
     }
     std::optional<FileAnswer> SaveFile(const FileRequest& request) override {
@@ -65,6 +69,7 @@ public:
     }
     std::optional<ColorAnswer> Color(const ColorRequest& request) override {
         colorRequests.push_back(request);
+        RunWhileOpen();
         const auto color = Next(colors).value_or(std::nullopt);
         return color ? std::optional(ColorAnswer{*color, request.customColors}) : std::nullopt;
     }
@@ -98,6 +103,11 @@ private:
         Answer answer = answers.front();
         answers.pop_front();
         return answer;
+    }
+    void RunWhileOpen() {
+        if (const auto act = std::exchange(whileOpen, nullptr)) {
+            act();
+        }
     }
     std::optional<FileAnswer> NextFile() {
         const auto answer = Next(fileAnswers_);

@@ -69,7 +69,7 @@ QLabel* MakeLabel(const char* objectName, const QString& text, QWidget* parent) 
 
 } // namespace
 
-PicPrev::PicPrev(ProgramContext context) : SkinnedWindow(context, PicPrevLook) {
+PicPrev::PicPrev(ProgramContext context) : ColorTool(context, PicPrevLook) {
     view_ = new ColorPictureView(Body());
     auto* layout = new QGridLayout(Body());
     layout->setContentsMargins(theme::Margin, theme::Margin, theme::Margin, theme::Margin);
@@ -142,32 +142,30 @@ void PicPrev::ShowSample(ColorValue color) {
 }
 
 void PicPrev::Confirm() {
-    Session().MenuResult = ColorText(color_);
-    Unload();
+    const ColorValue color = color_;
+    CloseUnanswered().Give(color);
 }
 
-void PicPrev::OnUnload() {
-    if (Session().MenuResult.empty()) {
-        Session().MenuResult = CancelledResult;
-    }
-}
-
-bool OpenPictureToPickFrom(ProgramContext context, QWidget* asking, const std::string& path) {
+void OpenPictureToPickFrom(ProgramContext context, const MenuAnswer& answer,
+                           const std::string& path) {
+    QWidget* asking = answer.Waiting();
     const PictureFormatChecker checker(asking, context.session.programFolder,
                                        [asking](const std::string& page) {
                                            ReportFailure(asking, SystemShell().OpenDocument(page));
                                        });
     if (checker.PictureFormatCheck(path) == 0) {
-        return false;
+        answer.Give(MenuCancelled{});
+        return;
     }
     const PictureResult picture = LoadPicture(path);
     if (picture.fault != PictureFault::None) {
-        return false; // gone since it was tried
+        answer.Give(MenuCancelled{}); // gone since it was tried
+        return;
     }
     auto& window = static_cast<PicPrev&>(context.windows.Load(WindowName::PicPrev));
+    window.Serve(answer);
     window.SetPicture(picture.image);
     window.Present();
-    return true;
 }
 
 } // namespace tavmoor

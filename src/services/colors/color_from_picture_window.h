@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/document/project_document.h"
-#include "services/windows/skinned_window.h"
+#include "services/colors/color_tool.h"
 
 #include <string>
 
@@ -12,18 +11,15 @@ namespace tavmoor {
 
 class ColorPictureView;
 
-/// `PicPrev`: a colour is picked from a picture. OK puts it into the session's MenuResult; every
-/// other end of the window puts CancelledResult there.
-class PicPrev final : public SkinnedWindow {
+/// `PicPrev`: a colour is picked from a picture. OK gives it to who asked; every other end of the
+/// window cancels the choice.
+class PicPrev final : public ColorTool {
     Q_OBJECT
 
 public:
     explicit PicPrev(ProgramContext context);
 
     void SetPicture(const QImage& picture);
-
-protected:
-    void OnUnload() override;
 
 private:
     QWidget* MakeTools();
@@ -36,10 +32,10 @@ private:
     ColorValue color_ = 0;
 };
 
-/// Opens `PicPrev` with a picture.
-/// @param asking the window that asks for the colour
+/// Opens `PicPrev` with a picture, for a choice that has no result yet. A picture that is refused,
+/// which the user is told, cancels the choice.
 /// @param path document form
-/// @return false when the picture was refused, which the user was told; nothing is open then
-bool OpenPictureToPickFrom(ProgramContext context, QWidget* asking, const std::string& path);
+void OpenPictureToPickFrom(ProgramContext context, const MenuAnswer& answer,
+                           const std::string& path);
 
 } // namespace tavmoor

@@ -4,7 +4,6 @@
 #include "services/colors/color_from_picture_window.h"
 #include "services/controls/menu_entry.h"
 #include "services/dialogs/common_dialog.h"
-#include "services/values/color_value.h"
 #include "services/windows/program_session.h"
 
 #include <QVBoxLayout>
@@ -21,36 +20,39 @@ constexpr WindowLook Menu2Look{.name = WindowName::menu2,
                                .keptOnTop = true,
                                .closesWhenLeft = true};
 
-void PickFromPalette(ProgramContext context, QWidget* asking) {
+void PickFromPalette(ProgramContext /*context*/, const MenuAnswer& answer) {
     CommonDialog cdlg1;
-    cdlg1.hOwner = asking;
+    cdlg1.hOwner = answer.Waiting();
     cdlg1.CancelError = true;
     try {
         cdlg1.ShowColor();
-        context.session.MenuResult = ColorText(cdlg1.RGBResult);
+        answer.Give(cdlg1.RGBResult);
     } catch (const RuntimeError& error) {
         if (error.Number() != ErrorNumber::InvalidCall) {
             throw;
         }
-        context.session.MenuResult = CancelledResult;
+        answer.Give(MenuCancelled{});
     }
 }
 
-void PickFromPicture(ProgramContext context, QWidget* asking) {
+void PickFromPicture(ProgramContext context, const MenuAnswer& answer) {
     CommonDialog cdlg1;
-    cdlg1.hOwner = asking;
+    cdlg1.hOwner = answer.Waiting();
     cdlg1.Filter = "Picture file(jpg, bmp, gif)|*.jpg;*.bmp;*.gif";
     cdlg1.DialogTitle = "Load picture to select color from...";
     cdlg1.InitDir = context.session.settings.lastPictureFolder;
     cdlg1.ShowOpen();
-    if (cdlg1.FileName.empty() || !OpenPictureToPickFrom(context, asking, cdlg1.FileName)) {
-        context.session.MenuResult = CancelledResult;
+    if (cdlg1.FileName.empty()) {
+        answer.Give(MenuCancelled{});
+    } else if (answer.Waiting() != nullptr) {
+        OpenPictureToPickFrom(context, answer, cdlg1.FileName);
     }
 }
 
 } // namespace
 
-menu2::menu2(ProgramContext context) : SkinnedWindow(context, Menu2Look) {
+menu2::menu2(ProgramContext context) : ColorTool(context, Menu2Look) {
+    Serve(Session().menuAnswer);
     auto* layout = new QVBoxLayout(Body());
     layout->setContentsMargins(1, 5, 1, 5);
     layout->setSpacing(0);
@@ -69,17 +71,7 @@ void menu2::AddEntry(const char* objectName, const char16_t* text, const char* a
 
 void menu2::Take(Way way) {
     const ProgramContext context = Context();
-    const QPointer<QWidget> asking = asking_;
-    wayTaken_ = true;
-    Unload();
-    context.session.MenuResult.clear();
-    way(context, asking);
-}
-
-void menu2::OnUnload() {
-    if (!wayTaken_) {
-        Session().MenuResult = CancelledResult;
-    }
+    way(context, CloseUnanswered());
 }
 
 } // namespace tavmoor

@@ -1,13 +1,14 @@
 #include "services/colors/color_pick.h"
 
-#include "services/colors/color_menu.h"
-#include "services/system/wait_loop.h"
-#include "services/values/color_value.h"
 #include "services/windows/program_session.h"
+#include "services/windows/skinned_window.h"
 #include "services/windows/window_placing.h"
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWidget>
+
+#include <utility>
 
 namespace tavmoor {
 
@@ -18,11 +19,8 @@ void CloseColorTools(WindowRegistry& windows) {
     windows.Unload(WindowName::PicPrev);
 }
 
-void ShowColorMenu(WindowRegistry& windows, QPoint place, QWidget* asking) {
+void ShowColorMenu(WindowRegistry& windows, QPoint place) {
     SkinnedWindow& menu = windows.Load(WindowName::menu2);
-    if (auto* colorMenu = qobject_cast<menu2*>(&menu)) {
-        colorMenu->SetAsking(asking);
-    }
     menu.adjustSize();
     const QScreen* screen = QGuiApplication::screenAt(place);
     const QRect area = (screen != nullptr ? screen : menu.screen())->availableGeometry();
@@ -32,26 +30,12 @@ void ShowColorMenu(WindowRegistry& windows, QPoint place, QWidget* asking) {
 
 } // namespace
 
-std::optional<ColorValue> PickColor(ProgramContext context, QPoint place, const QWidget& waiting) {
-    ProgramSession& session = context.session;
-    // A choice that is still open ends as a cancelled one, so the result is cleared after it.
+void PickColor(ProgramContext context, QPoint place, QWidget& asking, MenuAnswer::Use use) {
+    // A choice that is still open, which may stand in a dialog, ends as a cancelled one.
+    context.session.menuAnswer.Give(MenuCancelled{});
     CloseColorTools(context.windows);
-    session.MenuResult.clear();
-    const int pick = ++session.colorPicks;
-    ShowColorMenu(context.windows, place, waiting.window());
-    const auto done = [&] { return session.colorPicks != pick || !session.MenuResult.empty(); };
-    const bool answered = WaitUntil(done, waiting.window());
-    if (session.colorPicks != pick) {
-        // Another choice began while this one waited; what is open now, and the result, is its.
-        return std::nullopt;
-    }
-    if (!answered) {
-        CloseColorTools(context.windows);
-    }
-    const auto color =
-        session.MenuResult == CancelledResult ? std::nullopt : ParseColorText(session.MenuResult);
-    session.MenuResult.clear();
-    return color;
+    context.session.menuAnswer = MenuAnswer(asking, std::move(use));
+    ShowColorMenu(context.windows, place);
 }
 
 QPoint ColorMenuPlace(const QWidget& control) {

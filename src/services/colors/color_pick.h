@@ -1,21 +1,19 @@
 #pragma once
 
-#include "core/document/project_document.h"
+#include "services/windows/menu_result.h"
 #include "services/windows/window_registry.h"
 
 #include <QPoint>
-
-#include <optional>
 
 class QWidget;
 
 namespace tavmoor {
 
 /// Asks for a colour: shows the colour menu `menu2` at a place of the screen (logical pixels) and
-/// lets events run until it, or the window that it leads to, has a result.
-/// @param waiting the window that asks; its end ends the waiting
-/// @return nothing when the user cancelled, or the waiting was ended
-std::optional<ColorValue> PickColor(ProgramContext context, QPoint place, const QWidget& waiting);
+/// returns. A choice that is open already ends as a cancelled one.
+/// @param asking the widget that asks; the tools close with its window
+/// @param use called once, with a colour or MenuCancelled, unless `asking` has gone before
+void PickColor(ProgramContext context, QPoint place, QWidget& asking, MenuAnswer::Use use);
 
 /// Where the colour menu comes up for a control: beside it, a little to the right of its right end.
 QPoint ColorMenuPlace(const QWidget& control);

@@ -4,8 +4,6 @@
 #include "services/controls/color_box.h"
 #include "services/controls/text_boxes.h"
 
-#include <QPointer>
-
 namespace tavmoor {
 
 ColorPickButton::ColorPickButton(const ButtonDescription& description, ProgramContext context,
@@ -23,12 +21,12 @@ ColorPickButton::ColorPickButton(const ButtonDescription& description, ProgramCo
 }
 
 void ColorPickButton::Pick() {
-    const QPointer<ColorPickButton> self(this); // events run meanwhile
-    const auto color = PickColor(context_, ColorMenuPlace(control_), control_);
-    if (color && self) {
-        color_ = *color;
-        Q_EMIT Changed();
-    }
+    PickColor(context_, ColorMenuPlace(control_), *this, [this](const MenuResult& result) {
+        if (const auto* color = std::get_if<ColorValue>(&result)) {
+            color_ = *color;
+            Q_EMIT Changed();
+        }
+    });
 }
 
 } // namespace tavmoor

@@ -1,11 +1,9 @@
 #include "services/system/wait_loop.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPointer>
 #include <QTimer>
-#include <QVariant>
 
 #include <utility>
 #include <vector>
@@ -14,16 +12,11 @@ namespace tavmoor {
 
 namespace {
 
-bool loopsEnded = false;
-
 /// How many of these loops run, one within the other.
 int loopsRunning = 0;
 
 /// What is to be deleted when the outermost loop has ended.
 std::vector<QPointer<QObject>> deletedAfterWaits;
-
-/// How often a condition is looked at while no event comes.
-constexpr std::chrono::milliseconds Tick{10};
 
 } // namespace
 
@@ -42,26 +35,14 @@ RunningLoop::~RunningLoop() {
     }
 }
 
-bool WaitUntil(const std::function<bool()>& done, const QObject* owner) {
+void WaitFor(std::chrono::milliseconds time) {
     const RunningLoop running;
-    const QPointer<const QObject> alive(owner);
-    QTimer tick;
-    tick.start(Tick);
-    // Windows unload by DeleteAfterWaits, so that the code that waits here never comes back to one
-    // that is gone.
-    while (!loopsEnded && alive && !alive->property(UnloadedProperty).toBool()) {
-        if (done()) {
-            return true;
-        }
+    QTimer end;
+    end.setSingleShot(true);
+    end.start(time);
+    while (end.isActive()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    return alive && done();
-}
-
-void WaitFor(std::chrono::milliseconds time) {
-    QElapsedTimer timer;
-    timer.start();
-    WaitUntil([&] { return timer.hasExpired(time.count()); }, QCoreApplication::instance());
 }
 
 void LetEventsRun() {
@@ -80,14 +61,6 @@ void DeleteAfterWaits(QObject& object) {
     } else {
         object.deleteLater();
     }
-}
-
-void EndWaitLoops() {
-    loopsEnded = true;
-}
-
-void AllowWaitLoops() {
-    loopsEnded = false;
 }
 
 } // namespace tavmoor

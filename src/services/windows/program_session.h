@@ -4,6 +4,7 @@
 #include "core/document/project_reset.h"
 #include "core/session/program_settings.h"
 #include "core/session/recovery_folder.h"
+#include "services/windows/menu_result.h"
 
 #include <cstdint>
 #include <string>
@@ -22,10 +23,8 @@ struct ProgramSession {
     /// The copy of a project that a crash left, for the main window to offer; "" for none.
     std::string recoveredProject;
 
-    /// The result of a colour choice: "" while it is open, CancelledResult, or a decimal colour.
-    std::string MenuResult;
-    /// How many colour choices were begun; one that sees another number was given up for a new one.
-    int colorPicks = 0;
+    /// Of the colour choice that was begun last.
+    MenuAnswer menuAnswer;
     /// What the main window's menu was asked for, 0 for nothing; see MenuAction.
     std::int16_t menuAction = 0;
     /// The canvas was opened since the program started.
@@ -33,9 +32,6 @@ struct ProgramSession {
     /// The autorun status is still to be checked when the main window first comes up.
     bool autorunCheckDue = false;
 };
-
-/// A colour choice that the user cancelled.
-inline constexpr std::string_view CancelledResult = "999999999";
 
 /// What the settings file has for a compress folder that the user did not choose.
 inline constexpr std::string_view DefaultCompressFolder = "default";

@@ -99,7 +99,6 @@ bool SkinnedWindow::Unload() {
         return false;
     }
     unloaded_ = true;
-    setProperty(UnloadedProperty, true);
     OnUnload();
     hide();
     if (bringsMainBack_ && Windows().Main() != nullptr) {

@@ -214,10 +214,12 @@ void Form4::CompleteLook() {
 }
 
 void Form4::ChooseColor(const PictureButton& button, std::string CommandLook::*field) {
-    if (const auto color = PickColor(Context(), ColorMenuPlace(button), *this)) {
-        Document().IzvrsneKomande.*field = ColorText(*color);
-        binder_->Show();
-    }
+    PickColor(Context(), ColorMenuPlace(button), *this, [this, field](const MenuResult& result) {
+        if (const auto* color = std::get_if<ColorValue>(&result)) {
+            Document().IzvrsneKomande.*field = ColorText(*color);
+            binder_->Show();
+        }
+    });
 }
 
 void Form4::ChooseFont() {

@@ -10,7 +10,6 @@
 #include "services/look/theme.h"
 #include "services/shared/picture_preview_window.h"
 #include "services/system/session_fonts.h"
-#include "services/system/wait_loop.h"
 #include "services/values/qt_text.h"
 #include "services/values/twips.h"
 #include "services/windows/program_session.h"
@@ -111,7 +110,6 @@ void Form1::MakeBottomRow() {
 }
 
 void Form1::OnLoad() {
-    AllowWaitLoops();
     DisableUnbuiltSteps();
     ShowPanel(PanelName::Frame2);
     ShowDocument();
@@ -148,7 +146,6 @@ void Form1::OpenDueAutorunCheck() {
 void Form1::OnUnload() {
     timer_.stop();
     keeper_.Stop();
-    EndWaitLoops();
     commands_.KeepUnsaved();
     SaveSettings();
     RemoveSessionFontsIgnoringErrors(Document().Fontovi);

@@ -42,7 +42,6 @@ protected:
 class WindowGround : public testing::Test {
 protected:
     WindowGround() {
-        AllowWaitLoops();
         windows.Register(WindowName::Form9, [this] { return new PlainWindow({session, windows}); });
     }
     ~WindowGround() override {
@@ -109,26 +108,6 @@ TEST_F(WindowGround, EnterAndEscapePressTheirButtons) {
     window.cancel.setFocus();
     QTest::keyClick(&window.cancel, Qt::Key_Return);
     EXPECT_EQ(cancels, 2) << "Enter presses the button that has the focus";
-}
-
-TEST_F(WindowGround, WaitLoopsNestAndEndWithTheirWindowOrTheProgram) {
-    auto& window = windows.Open(WindowName::Form9);
-    bool innerDone = false;
-    bool outerDone = false;
-    QTimer::singleShot(0, &window, [&] {
-        QTimer::singleShot(5, &window, [&] { outerDone = true; });
-        QTimer::singleShot(20, &window, [&] { innerDone = true; });
-        EXPECT_TRUE(WaitUntil([&] { return innerDone; }, &window));
-    });
-    EXPECT_TRUE(WaitUntil([&] { return outerDone; }, &window));
-    EXPECT_TRUE(innerDone) << "the inner loop delays the outer one";
-
-    QTimer::singleShot(0, &window, [&] { window.Unload(); });
-    EXPECT_FALSE(WaitUntil([] { return false; }, &window));
-
-    auto& second = windows.Open(WindowName::Form9);
-    QTimer::singleShot(0, &second, [] { EndWaitLoops(); });
-    EXPECT_FALSE(WaitUntil([] { return false; }, &second));
 }
 
 TEST_F(WindowGround, AWindowOutlivesTheHandlerThatLetsEventsRun) {

@@ -1,29 +1,15 @@
-#include "support/program_windows.h"
-
 #include "services/controls/value_label.h"
 #include "services/look/theme.h"
 #include "services/values/color_value.h"
 #include "settings/main/main_window.h"
+#include "support/color_answers.h"
+#include "support/program_windows.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 
 namespace tavmoor {
-
-/// A colour menu that gives its result as soon as it is seen.
-class QuickColorMenu final : public SkinnedWindow {
-public:
-    QuickColorMenu(ProgramContext context, std::string result)
-        : SkinnedWindow(context, {.name = WindowName::menu2, .dragArea = "", .chrome = NoChrome}),
-          result_(std::move(result)) {}
-
-protected:
-    void showEvent(QShowEvent* /*event*/) override { Session().MenuResult = result_; }
-
-private:
-    std::string result_;
-};
 
 class CommandDescriptions : public test::ProgramWindows {
 protected:
@@ -32,11 +18,6 @@ protected:
     SkinnedWindow& Open() {
         Click(static_cast<Form1&>(Main()).ShowPanel(PanelName::Frame4), "Command42");
         return *Shown(WindowName::Form4);
-    }
-    void Pick(QWidget& window, const char* button, const std::string& result) {
-        windows.Register(WindowName::menu2,
-                         [this, result] { return new QuickColorMenu(Context(), result); });
-        Click(window, button);
     }
     static ColorValue Color(QLabel& label, QPalette::ColorRole role) {
         label.ensurePolished();
@@ -60,9 +41,10 @@ TEST_F(CommandDescriptions, StoresTextsAndLook) {
     EXPECT_EQ(Document().OpisKomandi[6].C, "Write to us");
     EXPECT_EQ(Document().OpisKomandi[5].O, "x");
 
-    Pick(window, "Command2", "255");
-    Pick(window, "Command3", "65280");
-    Pick(window, "Command3", "999999999");
+    test::AnswerColorChoices(Context(), {255, 65280, MenuCancelled{}});
+    Click(window, "Command2");
+    Click(window, "Command3");
+    Click(window, "Command3");
     auto& sample = Find<QLabel>(window, "Label11");
     EXPECT_EQ(Color(sample, QPalette::WindowText), 255);
     EXPECT_EQ(Color(sample, QPalette::Window), 65280);

@@ -2,7 +2,7 @@
 #include "services/controls/value_label.h"
 #include "services/values/qt_text.h"
 #include "settings/main/main_window.h"
-#include "support/plain_window.h"
+#include "support/color_answers.h"
 #include "support/program_windows.h"
 
 #include <QApplication>
@@ -11,8 +11,6 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QWheelEvent>
-
-#include <deque>
 
 namespace tavmoor {
 
@@ -196,11 +194,7 @@ TEST_P(ScreenPanels, TheFontDialogReplacesAllSix) {
 }
 
 TEST_P(ScreenPanels, ColorsOfTextAndWindow) {
-    std::deque<std::string> colors{"255", "65280", "65535", std::string(CancelledResult)};
-    test::PlainWindow::Register(Context(), WindowName::menu2, [&] {
-        session.MenuResult = colors.front();
-        colors.pop_front();
-    });
+    test::AnswerColorChoices(Context(), {255, 65280, 65535, MenuCancelled{}});
     auto& panel = Open();
     DoubleClick(panel, Names().text);
     EXPECT_EQ(Screen().Bojateksta, 255);

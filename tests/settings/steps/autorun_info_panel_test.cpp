@@ -2,12 +2,10 @@
 #include "services/controls/value_label.h"
 #include "services/values/qt_text.h"
 #include "settings/main/main_window.h"
-#include "support/plain_window.h"
+#include "support/color_answers.h"
 #include "support/program_windows.h"
 
 #include <QCheckBox>
-
-#include <deque>
 
 namespace tavmoor {
 
@@ -41,12 +39,7 @@ TEST_F(AutorunInfoPanel, TextsAreKeptAsTheyAreTyped) {
 }
 
 TEST_F(AutorunInfoPanel, ADoubleClickOrThePaletteButtonChangesAColor) {
-    std::deque<std::string> colors{"255",      "65280", std::string(CancelledResult),
-                                   "16711680", "65535", "128"};
-    test::PlainWindow::Register(Context(), WindowName::menu2, [&] {
-        session.MenuResult = colors.front();
-        colors.pop_front();
-    });
+    test::AnswerColorChoices(Context(), {255, 65280, MenuCancelled{}, 16711680, 65535, 128});
     auto& panel = Open();
     const auto& texts = Texts();
     DoubleClick(panel, "Text2");
@@ -62,7 +55,6 @@ TEST_F(AutorunInfoPanel, ADoubleClickOrThePaletteButtonChangesAColor) {
     EXPECT_EQ(texts.GlavniOpisBoja, 0);
     PressKey(Find(panel, "Text31Color"), Qt::Key_Space);
     EXPECT_EQ(texts.Vertfontboja, 128);
-    EXPECT_EQ(session.MenuResult, "");
     EXPECT_EQ(Find(panel, "Text2").palette().color(QPalette::Text), QColor(Qt::red));
     EXPECT_EQ(Find(panel, "Text5").palette().color(QPalette::Base), QColor(Qt::yellow));
 }

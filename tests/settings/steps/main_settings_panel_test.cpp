@@ -3,6 +3,7 @@
 #include "core/document/project_reset.h"
 #include "services/controls/color_box.h"
 #include "services/controls/value_label.h"
+#include "support/color_answers.h"
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 
@@ -133,18 +134,14 @@ TEST_F(MainSettingsPanel, TheIconIsLoadedAgainOnlyWhenItsFileChanged) {
 }
 
 TEST_F(MainSettingsPanel, TheBackColorIsPickedByButtonAndLabel) {
-    const char* result = "255";
-    test::PlainWindow::Register(Context(), WindowName::menu2,
-                                [this, &result] { session.MenuResult = result; });
+    test::AnswerColorChoices(Context(), {255, 65280, MenuCancelled{}});
     auto& form = Main();
     const ColorValue& stored = Document().OsnovnaPodesavanja.BojaProzora;
     Click(form, "Command2");
     EXPECT_EQ(stored, 255);
-    result = "65280";
     Click(form, "Label19");
     EXPECT_EQ(stored, 65280);
     EXPECT_EQ(Find<ColorBox>(form, "Label19").Color(), 65280);
-    result = "999999999";
     Click(form, "Label19");
     EXPECT_EQ(stored, 65280);
 }
