@@ -1,9 +1,9 @@
 #include "services/colors/color_menu.h"
 
-#include "core/files/runtime_error.h"
 #include "services/colors/color_from_picture_window.h"
 #include "services/controls/menu_entry.h"
 #include "services/dialogs/common_dialog.h"
+#include "services/dialogs/dialog_answers.h"
 #include "services/windows/program_session.h"
 
 #include <QVBoxLayout>
@@ -23,16 +23,8 @@ constexpr WindowLook Menu2Look{.name = WindowName::menu2,
 void PickFromPalette(ProgramContext /*context*/, const MenuAnswer& answer) {
     CommonDialog cdlg1;
     cdlg1.hOwner = answer.Waiting();
-    cdlg1.CancelError = true;
-    try {
-        cdlg1.ShowColor();
-        answer.Give(cdlg1.RGBResult);
-    } catch (const RuntimeError& error) {
-        if (error.Number() != ErrorNumber::InvalidCall) {
-            throw;
-        }
-        answer.Give(MenuCancelled{});
-    }
+    const auto color = AskForColor(cdlg1);
+    answer.Give(color ? MenuResult(*color) : MenuCancelled{});
 }
 
 void PickFromPicture(ProgramContext context, const MenuAnswer& answer) {
@@ -41,11 +33,11 @@ void PickFromPicture(ProgramContext context, const MenuAnswer& answer) {
     cdlg1.Filter = "Picture file(jpg, bmp, gif)|*.jpg;*.bmp;*.gif";
     cdlg1.DialogTitle = "Load picture to select color from...";
     cdlg1.InitDir = context.session.settings.lastPictureFolder;
-    cdlg1.ShowOpen();
-    if (cdlg1.FileName.empty()) {
+    const auto path = AskForFile(cdlg1);
+    if (!path) {
         answer.Give(MenuCancelled{});
     } else if (answer.Waiting() != nullptr) {
-        OpenPictureToPickFrom(context, answer, cdlg1.FileName);
+        OpenPictureToPickFrom(context, answer, *path);
     }
 }
 

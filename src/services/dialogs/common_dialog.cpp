@@ -115,17 +115,17 @@ void CommonDialog::SetAction(std::int16_t number) {
 }
 
 void CommonDialog::ShowOpen() {
-    AskForFile(&DialogResponder::OpenFile);
+    RunFileDialog(&DialogResponder::OpenFile);
 }
 
 void CommonDialog::ShowSave() {
-    if (!AskForFile(&DialogResponder::SaveFile)) {
+    if (!RunFileDialog(&DialogResponder::SaveFile)) {
         ThrowIfCancelIsError("ShowSave");
     }
 }
 
 /// @return false when the dialog was cancelled; the file properties are empty then
-bool CommonDialog::AskForFile(FileDialogMethod method) {
+bool CommonDialog::RunFileDialog(FileDialogMethod method) {
     const auto answer = (Dialogs().*method)(MakeFileRequest());
     const auto path = answer ? Accept(answer->path, LongestFile) : std::nullopt;
     FileName = path.value_or("");
@@ -165,7 +165,7 @@ void CommonDialog::ShowColor() {
     request.title = ToQString(DialogTitle);
     request.color = ToQColor(RGBResult);
     request.flags = static_cast<std::uint32_t>(flags) & ColorFlags;
-    if (const auto color = AskForColor(request)) {
+    if (const auto color = AskWithCustomColors(request)) {
         RGBResult = ToColorValue(*color);
     } else {
         ThrowIfCancelIsError("ShowColor");

@@ -108,7 +108,7 @@ public:
 private:
     using FileDialogMethod = std::optional<FileAnswer> (DialogResponder::*)(const FileRequest&);
 
-    bool AskForFile(FileDialogMethod method);
+    bool RunFileDialog(FileDialogMethod method);
     [[nodiscard]] FileRequest MakeFileRequest() const;
     void ThrowIfCancelIsError(const char* dialog) const;
     void Shell(ShellDialog dialog, std::string_view path);

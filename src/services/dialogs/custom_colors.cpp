@@ -12,7 +12,7 @@ CustomColors White() {
 
 } // namespace
 
-std::optional<QColor> AskForColor(ColorRequest request) {
+std::optional<QColor> AskWithCustomColors(ColorRequest request) {
     static CustomColors kept = White();
     request.customColors = kept;
     const auto answer = Dialogs().Color(request);

@@ -127,7 +127,7 @@ void FontDialog::ChooseColor() {
     ColorRequest request;
     request.owner = this;
     request.color = color_;
-    if (const auto color = AskForColor(request)) {
+    if (const auto color = AskWithCustomColors(request)) {
         color_ = *color;
         ShowColor();
     }

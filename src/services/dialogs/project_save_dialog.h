@@ -20,7 +20,7 @@ public:
     void LetEventsRun() override;
 
 private:
-    [[nodiscard]] bool MayBeReplaced() const;
+    [[nodiscard]] bool MayBeReplaced(const std::string& chosen) const;
 
     CommonDialog& dialog_;
 };

@@ -1,9 +1,7 @@
 #include "services/fields/field_pickers.h"
 
 #include "core/files/document_path.h"
-#include "core/files/runtime_error.h"
 #include "core/text/number_text.h"
-#include "core/text/value_encoding.h"
 #include "services/dialogs/common_dialog.h"
 #include "services/dialogs/file_name_check.h"
 #include "services/windows/program_session.h"
@@ -18,8 +16,7 @@ std::optional<std::string> PickFile(QWidget& owner, const FilePick& pick) {
     dialog.DialogTitle = pick.title;
     dialog.Filter = pick.filter;
     dialog.InitDir = pick.initialFolder;
-    dialog.ShowOpen();
-    return dialog.FileName.empty() ? std::nullopt : std::optional(dialog.FileName);
+    return AskForFile(dialog);
 }
 
 std::optional<std::string> PickCheckedFile(QWidget& owner, const FilePick& pick) {
@@ -66,18 +63,7 @@ std::optional<PickedFont> PickFont(QWidget& owner, const PickedFont& current,
     dialog.Underline = current.font.underline;
     dialog.StrikeThru = current.font.strikeOut;
     dialog.RGBResult = current.color;
-    dialog.CancelError = true;
-    try {
-        dialog.ShowFont();
-    } catch (const RuntimeError& error) {
-        if (error.Number() == ErrorNumber::InvalidCall) {
-            return std::nullopt; // cancelled
-        }
-        throw;
-    }
-    return PickedFont{{dialog.FontName, RoundSize(FormatNumber(dialog.FontSize)), dialog.Bold,
-                       dialog.Italic, dialog.Underline, dialog.StrikeThru},
-                      dialog.RGBResult};
+    return AskForFont(dialog);
 }
 
 } // namespace tavmoor

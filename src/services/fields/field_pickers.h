@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/document/project_document.h"
-#include "services/values/font_spec.h"
+#include "services/dialogs/dialog_answers.h"
 #include "services/windows/window_registry.h"
 
 #include <QString>
@@ -48,12 +47,6 @@ void PickPicture(ProgramContext context, QWidget& owner, std::string_view title,
 /// as for a chosen one.
 void TakePicture(ProgramContext context, QWidget& owner, const std::string& path,
                  const std::function<void(const std::string& path)>& store);
-
-/// What the font dialog of a field gives.
-struct PickedFont {
-    FontSpec font; ///< its size in stored form
-    ColorValue color = 0;
-};
 
 /// Lets a font be chosen, beginning with the given one ("" for name or size gives the dialog none).
 std::optional<PickedFont> PickFont(QWidget& owner, const PickedFont& current,

@@ -6,6 +6,7 @@
 #include "services/controls/path_box.h"
 #include "services/controls/picture_button.h"
 #include "services/dialogs/common_dialog.h"
+#include "services/dialogs/dialog_answers.h"
 #include "services/look/theme.h"
 #include "services/shared/autorun_check_window.h"
 #include "services/values/qt_text.h"
@@ -168,9 +169,8 @@ void Form3::ChooseFolder() {
     dialog.hOwner = this;
     dialog.DialogTitle = "Choose temporary compress folder...";
     dialog.InitDir = FromQString(text1_->text());
-    dialog.ShowFolder();
-    if (!CommonDialog::LastFolder().empty()) {
-        text1_->setText(ToQString(CommonDialog::LastFolder()));
+    if (const auto folder = AskForFolder(dialog)) {
+        text1_->setText(ToQString(*folder));
         option2_->setChecked(true);
     }
 }

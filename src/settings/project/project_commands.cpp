@@ -6,6 +6,7 @@
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
 #include "core/session/recovery_folder.h"
+#include "services/dialogs/dialog_answers.h"
 #include "services/dialogs/message_box.h"
 #include "services/dialogs/project_save_dialog.h"
 #include "services/values/qt_text.h"
@@ -63,9 +64,9 @@ std::string ProjectCommands::AskForProject(std::string_view title, const std::st
     dialog_.Filter = words::ProjectFilter;
     dialog_.FilterIndex = 1;
     dialog_.SidebarFolders = RecoveryPlaces();
-    dialog_.ShowOpen();
+    const auto path = AskForFile(dialog_);
     dialog_.SidebarFolders.clear();
-    return dialog_.FileName;
+    return path.value_or("");
 }
 
 void ProjectCommands::Open(const std::string& path) {

@@ -8,6 +8,7 @@
 #include "services/controls/picture_button.h"
 #include "services/controls/value_label.h"
 #include "services/dialogs/common_dialog.h"
+#include "services/dialogs/dialog_answers.h"
 #include "services/dialogs/file_name_check.h"
 #include "services/fields/color_pick_button.h"
 #include "services/fields/field_pickers.h"
@@ -216,9 +217,8 @@ void Frame2::BrowseCdFolder() {
     dialog.hOwner = this;
     dialog.DialogTitle = "CD ROM files folder";
     dialog.InitDir = Document().CdFolder();
-    dialog.ShowFolder();
-    if (!CommonDialog::LastFolder().empty()) {
-        Document().OsnovnaPodesavanja.GlavniDirektorijum = CommonDialog::LastFolder();
+    if (const auto folder = AskForFolder(dialog)) {
+        Document().OsnovnaPodesavanja.GlavniDirektorijum = *folder;
         ShowDocument();
     }
 }

@@ -2,6 +2,7 @@
 
 #include "core/files/program_folder.h"
 #include "core/files/runtime_error.h"
+#include "services/dialogs/dialog_answers.h"
 #include "services/dialogs/project_save_dialog.h"
 #include "support/scripted_answers.h"
 #include "support/scripted_dialogs.h"
@@ -100,7 +101,12 @@ TEST_F(CommonDialogTest, OnlySaveColorAndFontTurnACancelIntoAnError) {
     ExpectCancelError([this] { dialog_.ShowFont(); });
     EXPECT_EQ(dialog_.RGBResult, 7);
     EXPECT_EQ(dialog_.FontName, "Arial");
-    dialog_.CancelError = false;
+    for (const bool isError : {true, false}) {
+        dialog_.CancelError = isError;
+        EXPECT_FALSE(AskForFile(dialog_) || AskForNewFile(dialog_) || AskForFolder(dialog_) ||
+                     AskForColor(dialog_) || AskForFont(dialog_));
+        EXPECT_EQ(dialog_.CancelError, isError);
+    }
     EXPECT_NO_THROW((dialog_.ShowSave(), dialog_.ShowColor(), dialog_.ShowFont()));
 }
 
