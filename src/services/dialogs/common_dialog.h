@@ -33,8 +33,6 @@ public:
     std::int32_t flags = 0;
     std::string DialogTitle;
     std::string DialogPrompt; ///< of ShowFolder, ShowRun and ShowRestart
-    std::string AppName;      ///< title of ShowAbout
-    QIcon hIcon;              ///< of ShowAbout; ShowIcon sets it
     bool Bold = false;
     bool Italic = false;
     bool StrikeThru = false;
@@ -50,21 +48,7 @@ public:
     /// The folder to begin in, or a file whose folder and name the dialog begins with. Where
     /// neither exists, and for "", the program's folder.
     std::string InitDir;
-
-    /// Of ShowIcon, in pixels: 16 or 32.
-    [[nodiscard]] std::int32_t IconSize() const noexcept { return iconSize_; }
-    /// Any number but 16 gives 32.
-    void SetIconSize(std::int32_t size) noexcept { iconSize_ = size == 16 ? 16 : 32; }
-
-    std::int32_t HelpCommand = 0;
-    std::string HelpFile;
-    std::string HelpKey;
     ColorValue RGBResult = 0; ///< of ShowColor and ShowFont, in and out
-
-    /// Runs a dialog by its number: 0 open, 1 save, 2 colour, 3 font, 4 printer, 5 help, 6 about,
-    /// 7 folder, 8 format, 9 icon, 10 object properties, 11 restart, 12 run, 13 shut down. Other
-    /// numbers do nothing.
-    void SetAction(std::int16_t number);
 
     /// Native folders that file dialogs list among their places, such as the recovery folder.
     std::vector<std::filesystem::path> SidebarFolders;
@@ -81,14 +65,36 @@ public:
     /// the colour alone.
     /// @throws RuntimeError 5 on cancel with CancelError
     void ShowFont();
+    /// Lets a folder be chosen. The result is in LastFolder(); InitDir and DialogTitle are ""
+    /// afterwards.
+    void ShowFolder();
+    /// The folder that the last ShowFolder of any CommonDialog gave, "" when it was cancelled. No
+    /// backslash at its end but for the root of a drive.
+    static const std::string& LastFolder() noexcept { return lastFolder_; }
+
+    // The rest is for other users of the control: the program's own windows use none of it.
+
+    std::string AppName; ///< title of ShowAbout
+    QIcon hIcon;         ///< of ShowAbout; ShowIcon sets it
+
+    /// Of ShowIcon, in pixels: 16 or 32.
+    [[nodiscard]] std::int32_t IconSize() const noexcept { return iconSize_; }
+    /// Any number but 16 gives 32.
+    void SetIconSize(std::int32_t size) noexcept { iconSize_ = size == 16 ? 16 : 32; }
+
+    std::int32_t HelpCommand = 0;
+    std::string HelpFile;
+    std::string HelpKey;
+
+    /// Runs a dialog by its number: 0 open, 1 save, 2 colour, 3 font, 4 printer, 5 help, 6 about,
+    /// 7 folder, 8 format, 9 icon, 10 object properties, 11 restart, 12 run, 13 shut down. Other
+    /// numbers do nothing.
+    void SetAction(std::int16_t number);
     void ShowPrinter();
     /// HelpFile with HelpCommand and HelpKey.
     void ShowHelp();
     /// AppName as title, DialogTitle as text, hIcon.
     void ShowAbout();
-    /// Lets a folder be chosen. The result is in LastFolder(); InitDir and DialogTitle are ""
-    /// afterwards.
-    void ShowFolder();
     /// Formats the drive of InitDir.
     void ShowFormat();
     /// Sets hIcon to the icon of the file FileName in IconSize.
@@ -100,10 +106,6 @@ public:
     void ShowShutDown();
     /// Searches below InitDir.
     void ShowFindFiles();
-
-    /// The folder that the last ShowFolder of any CommonDialog gave, "" when it was cancelled. No
-    /// backslash at its end but for the root of a drive.
-    static const std::string& LastFolder() noexcept { return lastFolder_; }
 
 private:
     using FileDialogMethod = std::optional<FileAnswer> (DialogResponder::*)(const FileRequest&);

@@ -1,34 +1,17 @@
 #include "services/dialogs/qt_dialogs.h"
 
-#include "core/files/document_path.h"
 #include "services/dialogs/font_dialog.h"
 #include "services/dialogs/run_dialog.h"
-#include "services/pictures/picture_loader.h"
 #include "services/system/service_slot.h"
 #include "services/values/file_filter.h"
-#include "services/values/native_path_text.h"
 
 #include <QColorDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QFileIconProvider>
-#include <QFileInfo>
-#include <QGridLayout>
-#include <QLabel>
-#include <QPrintDialog>
-#include <QPrinter>
 
 namespace tavmoor {
 
 namespace {
-
-/// A title that is not given leaves the dialog its own.
-void SetTitle(QDialog& dialog, const QString& title) {
-    if (!title.isEmpty()) {
-        dialog.setWindowTitle(title);
-    }
-}
 
 /// Lists folders among the places of a file dialog for as long as this lives: by itself Qt keeps
 /// them in the user's settings, for the file dialogs of all programs.
@@ -93,7 +76,6 @@ std::optional<FileAnswer> AskForFile(const FileRequest& request, QFileDialog::Ac
     const AddedPlaces places(dialog, request.sidebarFolders);
     dialog.setAcceptMode(accept);
     dialog.setFileMode(mode);
-    SetTitle(dialog, request.title);
     SetFilters(dialog, request);
     dialog.setDefaultSuffix(request.defaultExtension);
     if (!request.folder.isEmpty()) {
@@ -102,7 +84,7 @@ std::optional<FileAnswer> AskForFile(const FileRequest& request, QFileDialog::Ac
     if (!request.file.isEmpty()) {
         dialog.selectFile(request.file);
     }
-    if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (RunDialog(dialog, request.title) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
     return FileAnswer{QDir::toNativeSeparators(dialog.selectedFiles().constFirst()),
@@ -124,14 +106,13 @@ std::optional<QString> QtDialogs::Folder(const FolderRequest& request) {
     dialog.setObjectName(QStringLiteral("FolderDialog"));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    SetTitle(dialog, request.title);
     if (!request.prompt.isEmpty()) {
         dialog.setLabelText(QFileDialog::FileName, request.prompt);
     }
     if (!request.folder.isEmpty()) {
         dialog.setDirectory(request.folder);
     }
-    if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (RunDialog(dialog, request.title) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
     return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
@@ -144,8 +125,7 @@ std::optional<ColorAnswer> QtDialogs::Color(const ColorRequest& request) {
     QColorDialog dialog(request.color, request.owner);
     dialog.setObjectName(QStringLiteral("ColorDialog"));
     dialog.setOption(QColorDialog::DontUseNativeDialog);
-    SetTitle(dialog, request.title);
-    if (RunDialog(dialog) != QDialog::Accepted) {
+    if (RunDialog(dialog, request.title) != QDialog::Accepted) {
         return std::nullopt;
     }
     ColorAnswer answer{dialog.selectedColor(), {}};
@@ -157,52 +137,10 @@ std::optional<ColorAnswer> QtDialogs::Color(const ColorRequest& request) {
 
 std::optional<FontChoice> QtDialogs::Font(const FontRequest& request) {
     FontDialog dialog(request.font, request.owner);
-    SetTitle(dialog, request.title);
-    if (RunDialog(dialog) != QDialog::Accepted) {
+    if (RunDialog(dialog, request.title) != QDialog::Accepted) {
         return std::nullopt;
     }
     return dialog.Choice();
-}
-
-bool QtDialogs::Printer(const PrinterRequest& request) {
-    QPrinter printer;
-    QPrintDialog dialog(&printer, request.owner);
-    dialog.setObjectName(QStringLiteral("PrintDialog"));
-    SetTitle(dialog, request.title);
-    return RunDialog(dialog) == QDialog::Accepted;
-}
-
-void QtDialogs::About(const AboutRequest& request) {
-    constexpr int iconSize = 48;
-    QDialog dialog(request.owner);
-    dialog.setObjectName(QStringLiteral("AboutDialog"));
-    SetTitle(dialog, request.title);
-    auto* icon = new QLabel;
-    icon->setPixmap(request.icon.pixmap(iconSize));
-    icon->setVisible(!request.icon.isNull());
-    auto* text = new QLabel(request.text);
-    text->setTextFormat(Qt::PlainText);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    auto* layout = new QGridLayout(&dialog);
-    layout->addWidget(icon, 0, 0, Qt::AlignTop);
-    layout->addWidget(text, 0, 1);
-    layout->addWidget(buttons, 1, 0, 1, 2);
-    RunDialog(dialog);
-}
-
-QIcon QtDialogs::FileIcon(const QString& path, int size) {
-    const QFileInfo file(path);
-    if (!file.isFile()) {
-        return {};
-    }
-    const auto documentPath = FindDocumentPath(NativePathOf(path));
-    const QImage picture = documentPath ? LoadPicture(*documentPath, size).image : QImage();
-    return picture.isNull() ? QFileIconProvider().icon(file) : QIcon(QPixmap::fromImage(picture));
-}
-
-bool QtDialogs::Shell(const ShellRequest& request) {
-    return tavmoor::ShowShellDialog(request);
 }
 
 DialogResponder& Dialogs() {

@@ -6,7 +6,10 @@
 
 namespace tavmoor {
 
-int RunDialog(QDialog& dialog) {
+int RunDialog(QDialog& dialog, const QString& title) {
+    if (!title.isEmpty()) {
+        dialog.setWindowTitle(title);
+    }
     const RunningLoop running;
     return dialog.exec();
 }
