@@ -134,9 +134,12 @@ class Bench:
     def in_surroundings(self, command, surroundings):
         with surroundings(self.root) as conditions:
             old = folder_state.read(self.root)
-            result = self.tool.run(self.root, command.arguments, **conditions.options)
+            result = self.tool.run(self.root, command.arguments,
+                                   self.watching() if conditions.traced else None,
+                                   **conditions.options)
             trial = self.trial(command, result, fault_expected=False, old=old,
-                               must_refuse=conditions.must_refuse, ignored=conditions.ignored)
+                               must_refuse=conditions.must_refuse, ignored=conditions.ignored,
+                               calls=tuple(tuple(one[1:5]) for one in read_trace(self.trace)))
             for name in conditions.ignored:
                 trial.old.pop(name, None)
             for name in conditions.links:

@@ -31,6 +31,7 @@ class Trial:
     again_result: tuple | None = None
     written_through: dict = field(default_factory=dict)  # of outputs that are links: what they show
     ignored: tuple = ()  # names that the disturbance itself laid
+    calls: tuple = ()  # class, function and paths of each call of an undisturbed run
 
     @property
     def killed(self):
@@ -219,9 +220,27 @@ def one_of_two_holds(trial):
     return None
 
 
+def flushed_before_placed(trial):
+    """Output comes into its place by a rename of a file that was flushed, lest a power cut leave an
+    empty one. Extracted files can be extracted again."""
+    if trial.command.is_extraction:
+        return None
+    flushed, wrong = set(), []
+    places = [f"{trial.root}/{name}" for name in trial.command.written]
+    for kind, _, path, target in trial.calls:
+        if kind == "sync":
+            flushed.add(path)
+        elif kind == "create" and path in places:
+            wrong.append(path)
+        elif kind == "rename" and target in places and path not in flushed:
+            wrong.append(target)
+    return f"not flushed before it was placed: {', '.join(wrong)}" if wrong else None
+
+
 JUDGES = (comes_to_an_end, fault_comes, code_tells_the_truth, outputs_are_whole,
           old_or_new_together, refusal_changes_nothing, disc_starts, rest_is_untouched,
-          nothing_is_left, again_mends, leftovers_go, one_of_two_holds)
+          nothing_is_left, again_mends, leftovers_go, one_of_two_holds,
+          flushed_before_placed)
 
 
 def judge(trial, judges=JUDGES):
