@@ -23,11 +23,17 @@ bool ProgramApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
-        ReportAndEnd(error.what());
+        if (!ending_) {
+            ReportAndEnd(error.what());
+        }
+        // Timers go on while the report is open; the project is kept and the end is decided.
+        qCritical("%s", error.what());
+        return false;
     }
 }
 
 void ProgramApplication::ReportAndEnd(const char* report) {
+    ending_ = true;
     QString text = ToQString(report);
     if (session_ != nullptr) {
         try {

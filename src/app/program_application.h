@@ -7,7 +7,8 @@
 namespace tavmoor {
 
 /// The application with the one boundary of run-time errors: what no step handles ends the program
-/// here, after the open project was kept in the recovery folder and the error was shown.
+/// here, after the open project was kept in the recovery folder and the error was shown. Errors
+/// that come while it is shown change nothing in that.
 class ProgramApplication final : public QApplication {
 public:
     ProgramApplication(int& argc, char** argv);
@@ -21,6 +22,7 @@ private:
     [[noreturn]] void ReportAndEnd(const char* report);
 
     ProgramSession* session_ = nullptr;
+    bool ending_ = false;
 };
 
 } // namespace tavmoor

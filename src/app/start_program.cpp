@@ -10,10 +10,11 @@
 
 namespace tavmoor {
 
-void StartProgram(ProgramContext context, const RunMarker& marker) {
+void StartProgram(ProgramContext context, const RunMarker& marker,
+                  const std::function<std::string()>& programFolder) {
     ProgramSession& session = context.session;
     EnsureBuildFolder();
-    session.programFolder = ProgramFolder();
+    session.programFolder = programFolder();
     session.settingsPath = ProgramSettingsPath(session.programFolder);
     session.settings = ReadProgramSettings(session.settingsPath);
     session.settings.buildFolder = BuildFolder();
