@@ -1,5 +1,6 @@
 #include "support/program_windows.h"
 
+#include "settings/main/main_window.h"
 #include "settings/main/settings_window_list.h"
 
 namespace tavmoor::test {
@@ -10,6 +11,10 @@ ProgramWindows::ProgramWindows() {
 
 ProgramWindows::~ProgramWindows() {
     windows.Unload(WindowName::Form1);
+}
+
+QWidget& ProgramWindows::ShowPanel(PanelName name) {
+    return static_cast<Form1&>(Main()).ShowPanel(name);
 }
 
 } // namespace tavmoor::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings/shared/panel.h"
 #include "support/service_windows.h"
 
 namespace tavmoor::test {
@@ -11,6 +12,8 @@ protected:
     ~ProgramWindows() override;
 
     SkinnedWindow& Main() { return windows.Open(WindowName::Form1); }
+    /// A panel of the main window, shown in it.
+    QWidget& ShowPanel(PanelName name);
 };
 
 } // namespace tavmoor::test

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace tavmoor::test {
@@ -19,6 +21,7 @@ public:
 
     BoxAnswer Answer(const MessageBoxRequest& request) override {
         shown.push_back(request);
+        meanwhile();
         if (answers_.empty()) {
             EXPECT_EQ(request.buttons, BoxButtons::Ok) << request.text.toStdString();
             return BoxAnswer::Ok;
@@ -28,9 +31,17 @@ public:
         return answer;
     }
 
+    /// The only box that came up since the last call, as "title|text".
+    std::string One() {
+        EXPECT_EQ(shown.size(), ++taken_);
+        return shown.empty() ? "" : (shown.back().title + u'|' + shown.back().text).toStdString();
+    }
+
     std::vector<MessageBoxRequest> shown;
+    std::function<void()> meanwhile = [] {}; ///< takes place while a box is open
 
 private:
+    std::size_t taken_ = 0;
     std::deque<BoxAnswer> answers_;
     ScopedService<MessageBoxResponder> slot_{*this};
 };

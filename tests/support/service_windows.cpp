@@ -1,10 +1,6 @@
 #include "support/service_windows.h"
 
 #include "services/shared/service_window_list.h"
-#include "support/user_input.h"
-
-#include <QApplication>
-#include <QtTest/QTest>
 
 namespace tavmoor::test {
 
@@ -19,49 +15,6 @@ ServiceWindows::ServiceWindows() {
 ServiceWindows::~ServiceWindows() {
     windows.UnloadAll();
     Settle();
-}
-
-void ServiceWindows::ClickAt(QWidget& control, QPoint place) {
-    ASSERT_TRUE(control.isEnabled()) << control.objectName().toStdString();
-    ASSERT_TRUE(control.isVisible()) << control.objectName().toStdString();
-    QTest::mouseClick(&control, Qt::LeftButton, {}, place);
-    Settle();
-}
-
-void ServiceWindows::Click(QWidget& control) {
-    ClickAt(control, control.rect().center());
-}
-
-void ServiceWindows::DoubleClick(QWidget& window, const char* name) {
-    auto& control = Find(window, name);
-    auto* area = qobject_cast<QAbstractScrollArea*>(&control);
-    QTest::mouseDClick(area != nullptr ? area->viewport() : &control, Qt::LeftButton);
-    Settle();
-}
-
-void ServiceWindows::Type(QWidget& window, const char* name, const QString& text) {
-    auto& control = Find(window, name);
-    control.setFocus();
-    QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&control, Qt::Key_Delete);
-    TypeText(control, text);
-    Settle();
-}
-
-void ServiceWindows::PressKey(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    QTest::keyClick(&control, key, modifiers);
-    Settle();
-}
-
-bool ServiceWindows::Drop(QWidget& control, const std::filesystem::path& path) {
-    const bool taken = DropPath(control, path);
-    Settle();
-    return taken;
-}
-
-void ServiceWindows::Settle() {
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 SkinnedWindow* ServiceWindows::Shown(WindowName name) const {

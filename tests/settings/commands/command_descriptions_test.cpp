@@ -1,13 +1,9 @@
-#include "services/controls/value_label.h"
+#include "settings/commands/command_pages.h"
+
 #include "services/look/theme.h"
 #include "services/values/color_value.h"
-#include "settings/main/main_window.h"
 #include "support/color_answers.h"
 #include "support/program_windows.h"
-
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 
 namespace tavmoor {
 
@@ -16,90 +12,83 @@ protected:
     CommandDescriptions() { theme::Apply(*qApp); }
 
     SkinnedWindow& Open() {
-        Click(static_cast<Form1&>(Main()).ShowPanel(PanelName::Frame4), "Command42");
+        CommandsPage(ShowPanel(PanelName::Frame4)).descriptions.Click();
         return *Shown(WindowName::Form4);
     }
-    static ColorValue Color(QLabel& label, QPalette::ColorRole role) {
-        label.ensurePolished();
-        return ToColorValue(label.palette().color(role));
+    /// The stored look: the colours of text and ground, the font and its size.
+    [[nodiscard]] std::string Look() const {
+        return stored.Bojaslova + "|" + stored.Bojapozadinekomandi + "|" + stored.Font + "|" +
+               stored.Velicina;
     }
-    CommandLook& Stored() { return Document().IzvrsneKomande; }
+    static ColorValue TextColor(const CommandDescriptionsPage& page) {
+        return ToColorValue(page.sample.Color(QPalette::WindowText));
+    }
+
+    CommandLook& stored = session.document.IzvrsneKomande;
 };
 
 TEST_F(CommandDescriptions, StoresTextsAndLook) {
-    Stored().Komande[1].Opis = "Install";
-    Stored().Komande[6].Opis = "Mail";
-    Stored().Velicina = "11.5";
+    stored.Komande[1].Opis = "Install";
+    stored.Komande[6].Opis = "Mail";
+    stored.Velicina = "11.5";
     auto& window = Open();
-    EXPECT_EQ(windows.Main()->IsVisible(), false);
-    EXPECT_EQ(Find<ValueLabel>(window, "Label93").FullText(), QStringLiteral("Install"));
-    EXPECT_EQ(Find<ValueLabel>(window, "Label1").FullText(), QString());
-    EXPECT_EQ(Find<ValueLabel>(window, "Label5").FullText(), QStringLiteral("Mail"));
+    const CommandDescriptionsPage page(window);
+    EXPECT_FALSE(windows.Main()->IsVisible());
+    EXPECT_EQ(page.firstCommand.Text(), "Install");
+    EXPECT_EQ(page.secondCommand.Text(), "");
+    EXPECT_EQ(page.lastCommand.Text(), "Mail");
 
-    Type(window, "Text7", QStringLiteral("Write to us"));
-    PressKey(Find(window, "Text1"), Qt::Key_X);
+    page.lastTitle.Type("Write to us");
+    page.fifthText.Press(Qt::Key_X);
     EXPECT_EQ(Document().OpisKomandi[6].C, "Write to us");
     EXPECT_EQ(Document().OpisKomandi[5].O, "x");
 
     test::AnswerColorChoices(Context(), {255, 65280, MenuCancelled{}});
-    Click(window, "Command2");
-    Click(window, "Command3");
-    Click(window, "Command3");
-    auto& sample = Find<QLabel>(window, "Label11");
-    EXPECT_EQ(Color(sample, QPalette::WindowText), 255);
-    EXPECT_EQ(Color(sample, QPalette::Window), 65280);
-    EXPECT_EQ(sample.font().pointSize(), 12);
-    Click(window, "Command43");
+    page.textColor.Click();
+    page.backColor.Click();
+    page.backColor.Click();
+    EXPECT_EQ(TextColor(page), 255);
+    EXPECT_EQ(ToColorValue(page.sample.Color(QPalette::Window)), 65280);
+    EXPECT_EQ(page.sample.As().font().pointSize(), 12);
+    page.close.Click();
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(windows.Main()->IsVisible());
-    EXPECT_EQ(Stored().Bojaslova, "255");
-    EXPECT_EQ(Stored().Bojapozadinekomandi, "65280");
-    EXPECT_EQ(Stored().Font, "Arial");
-    EXPECT_EQ(Stored().Velicina, "12");
+    EXPECT_EQ(Look(), "255|65280|Arial|12");
 }
 
 TEST_F(CommandDescriptions, OpensAgainWithTheDocumentThatIsOpenNow) {
-    auto& first = Open();
-    Type(first, "Text30", QStringLiteral("old"));
-    first.close();
-    session.document = NewProjectDocument();
-    Stored().Komande[2].Opis = "New title";
-    Stored().Bojaslova.clear();
-    Stored().Bojapozadinekomandi.clear();
-    Stored().Font.clear();
-    Stored().Velicina.clear();
     auto& window = Open();
-    EXPECT_EQ(&window, &first);
-    EXPECT_EQ(Find<QLineEdit>(window, "Text30").text(), QString());
-    EXPECT_EQ(Find<ValueLabel>(window, "Label1").FullText(), QStringLiteral("New title"));
-    EXPECT_EQ(Color(Find<QLabel>(window, "Label11"), QPalette::WindowText), 52479);
+    const CommandDescriptionsPage page(window);
+    page.firstTitle.Type("old");
     window.close();
-    EXPECT_EQ(Stored().Bojaslova, "52479");
-    EXPECT_EQ(Stored().Bojapozadinekomandi, "-2147483633");
-    EXPECT_EQ(Stored().Font, "Ms Sans Serif");
-    EXPECT_EQ(Stored().Velicina, "10");
+    session.document = NewProjectDocument();
+    stored = {};
+    stored.Komande[2].Opis = "New title";
+    EXPECT_EQ(&Open(), &window);
+    EXPECT_EQ(page.firstTitle.Text(), "");
+    EXPECT_EQ(page.secondCommand.Text(), "New title");
+    EXPECT_EQ(TextColor(page), 52479);
+    window.close();
+    EXPECT_EQ(Look(), "52479|-2147483633|Ms Sans Serif|10");
 }
 
 TEST_F(CommandDescriptions, AFontKeepsTheSamplesBottom) {
     test::ScriptedDialogs dialogs;
     auto& window = Open();
-    auto& sample = Find<QLabel>(window, "Label11");
-    const int bottom = sample.geometry().bottom();
-    const int height = sample.height();
-    dialogs.fonts.push_back(FontChoice{.family = QStringLiteral("Courier New"),
-                                       .points = 20.5,
-                                       .underline = true,
-                                       .strikeOut = true,
-                                       .color = QColor(Qt::red)});
-    Click(window, "Command4");
-    EXPECT_GT(sample.height(), height);
-    EXPECT_EQ(sample.geometry().bottom(), bottom);
+    const CommandDescriptionsPage page(window);
+    const QWidget& sample = page.sample;
+    const QRect before = sample.geometry();
+    dialogs.fonts = {
+        FontChoice{QStringLiteral("Courier New"), 20.5, false, false, true, true, Qt::red},
+        std::nullopt};
+    page.font.Click();
+    EXPECT_GT(sample.height(), before.height());
+    EXPECT_EQ(sample.geometry().bottom(), before.bottom());
     EXPECT_TRUE(sample.font().underline());
     EXPECT_FALSE(sample.font().strikeOut());
-    Click(window, "Command4"); // cancelled
+    page.font.Click(); // cancelled
     window.close();
-    EXPECT_EQ(Stored().Font, "Courier New");
-    EXPECT_EQ(Stored().Velicina, "20");
+    EXPECT_EQ(stored.Font + stored.Velicina, "Courier New20");
 }
 
 } // namespace tavmoor

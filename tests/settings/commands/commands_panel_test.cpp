@@ -1,65 +1,68 @@
-#include "support/program_windows.h"
+#include "settings/commands/command_pages.h"
 
-#include "services/controls/value_label.h"
 #include "services/values/color_value.h"
 #include "services/values/twips.h"
-#include "settings/main/main_window.h"
+#include "support/plain_window.h"
+#include "support/program_windows.h"
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 
 namespace tavmoor {
 
 class CommandsPanel : public test::ProgramWindows {
 protected:
-    CommandsPanel() { Document().OsnovnaPodesavanja.GlavniDirektorijum = disc; }
-
-    QWidget& Panel() { return static_cast<Form1&>(Main()).ShowPanel(PanelName::Frame4); }
+    QWidget& Start() {
+        test::PlainWindow::Register(Context(), WindowName::Form10);
+        base.GlavniDirektorijum = disc;
+        return ShowPanel(PanelName::Frame4);
+    }
     FixedCommand& Command(std::size_t number) {
         return Document().IzvrsneKomande.Komande.at(number);
     }
+    [[nodiscard]] ColorValue FolderColor() const {
+        return ToColorValue(page.folder.Color(QPalette::WindowText));
+    }
 
     std::string disc = folder.Document("disc");
+    BaseSettings& base = session.document.OsnovnaPodesavanja;
+    QWidget& panel = Start();
+    CommandsPage page{panel};
 };
 
 TEST_F(CommandsPanel, EachRowEditsItsOwnCommandAndClearsIt) {
-    auto& panel = Panel();
-    Type(panel, "Text25", QStringLiteral("Read & go"));
-    Type(panel, "Text13", QStringLiteral("www.example.com"));
-    Type(panel, "Text14", QStringLiteral("/s"));
-    auto& type = Find<QComboBox>(panel, "Combo1");
+    page.secondTitle.Type("Read & go");
+    page.secondTarget.Type("www.example.com");
+    page.secondParameter.Type("/s");
+    auto& type = page.secondType.As<QComboBox>();
     EXPECT_EQ(type.currentIndex(), -1);
     type.setCurrentText(QStringLiteral("Visit web page"));
     EXPECT_EQ(type.currentIndex(), 1);
-    Click(panel, "Check10");
-    EXPECT_EQ(Command(2).Opis, "Read & go");
-    EXPECT_EQ(Command(2).Fajl, "www.example.com");
-    EXPECT_EQ(Command(2).Parametar, "/s");
-    EXPECT_EQ(Command(2).Vrsta, "Visit web page");
-    EXPECT_EQ(Command(2).Zatvara, 1);
+    page.secondCloses.Click();
+    const auto second = [this] {
+        const FixedCommand& command = Command(2);
+        return command.Opis + "|" + command.Fajl + "|" + command.Parametar + "|" + command.Vrsta +
+               "|" + std::to_string(command.Zatvara);
+    };
+    EXPECT_EQ(second(), "Read & go|www.example.com|/s|Visit web page|1");
 
     Document().OpisKomandi[2].C = "kept";
-    Type(panel, "Text29", QStringLiteral("last"));
-    Click(panel, "Command41");
+    page.lastTitle.Type("last");
+    page.clearLast.Click();
     EXPECT_EQ(Command(6).Opis, "");
     EXPECT_EQ(Command(2).Opis, "Read & go");
-    Click(panel, "Command37");
-    EXPECT_EQ(Command(2).Vrsta + Command(2).Fajl + Command(2).Parametar + Command(2).Opis, "");
-    EXPECT_EQ(Command(2).Zatvara, 0);
+    page.clearSecond.Click();
+    EXPECT_EQ(second(), "||||0");
     EXPECT_EQ(type.currentIndex(), -1);
-    EXPECT_FALSE(Find<QCheckBox>(panel, "Check10").isChecked());
-    EXPECT_EQ(Find<QLineEdit>(panel, "Text13").text(), QString());
+    EXPECT_FALSE(page.secondCloses.IsTicked());
+    EXPECT_EQ(page.secondTarget.Text(), "");
     EXPECT_EQ(Document().OpisKomandi[2].C, "kept");
 }
 
 TEST_F(CommandsPanel, ChosenFilesOfTheDiscAreStoredRelativeToIt) {
-    auto& panel = Panel();
     test::ScriptedDialogs dialogs;
     const auto browse = [&](const std::string& path) {
         dialogs.AnswerFile(path);
-        Click(panel, "Command30");
+        page.browseLast.Click();
         return Command(6).Fajl;
     };
     const std::string inside = folder.Write("disc/run/a.exe", "x");
@@ -68,50 +71,38 @@ TEST_F(CommandsPanel, ChosenFilesOfTheDiscAreStoredRelativeToIt) {
     EXPECT_EQ(dialogs.opened[0].title, QStringLiteral("Choose files to run/open..."));
     EXPECT_EQ(browse(beside), beside);
     EXPECT_EQ(browse(""), beside);
-    EXPECT_TRUE(Drop(Find(panel, "Text11"), folder.Native("disc/run/a.exe")));
+    EXPECT_TRUE(page.firstTarget.Drop(folder.Native("disc/run/a.exe")));
     EXPECT_EQ(Command(1).Fajl, "\\run\\a.exe");
 
-    std::string upper = disc;
-    upper.back() = 'C';
-    Document().OsnovnaPodesavanja.GlavniDirektorijum = upper;
+    base.GlavniDirektorijum.back() = 'C';
     EXPECT_EQ(browse(inside), inside);
-    Document().OsnovnaPodesavanja.GlavniDirektorijum = disc + "\\";
+    base.GlavniDirektorijum = disc + "\\";
     EXPECT_EQ(browse(inside), "run\\a.exe");
 }
 
 TEST_F(CommandsPanel, ShowsTheFolderAndTheMenuTitlesOfTheTemplate) {
+    const auto& note = page.menuTitlesNote.As();
     Document().Working.TemplateName = "Nexus";
-    auto& panel = Panel();
-    const auto& line = Find<ValueLabel>(panel, "Label68");
-    const auto lineColor = [&] {
-        line.ensurePolished();
-        return ToColorValue(line.palette().color(QPalette::WindowText));
-    };
-    EXPECT_EQ(line.FullText().toStdString(), "CD-ROM files folder: " + disc);
-    EXPECT_EQ(lineColor(), 6382708);
-    const auto& note = Find<QLabel>(panel, "Label22");
-    EXPECT_TRUE(Find(panel, "Command57").isVisible());
+    windows.Main()->ShowDocument();
+    EXPECT_EQ(page.folder.Text(), "CD-ROM files folder: " + disc);
+    EXPECT_EQ(FolderColor(), 6382708);
+    EXPECT_TRUE(page.menuTitles.IsVisible());
     EXPECT_EQ(note.mapTo(&panel, QPoint()).x(), PixelsOf(4830));
 
     Document().Working.TemplateName = "Blue";
-    Document().OsnovnaPodesavanja.GlavniDirektorijum.clear();
-    Panel();
-    EXPECT_EQ(line.FullText(), QStringLiteral("CD-ROM files folder: NOT SELECTED"));
-    EXPECT_EQ(lineColor(), 255);
-    EXPECT_FALSE(Find(panel, "Command57").isVisible());
-    EXPECT_EQ(note.x(), Find(panel, "Command57").x());
+    base.GlavniDirektorijum.clear();
+    windows.Main()->ShowDocument();
+    EXPECT_EQ(page.folder.Text(), "CD-ROM files folder: NOT SELECTED");
+    EXPECT_EQ(FolderColor(), 255);
+    EXPECT_FALSE(page.menuTitles.IsVisible());
+    EXPECT_EQ(note.x(), page.menuTitles.As().x());
 }
 
 TEST_F(CommandsPanel, MoreCommandsNeedATemplate) {
-    windows.Register(WindowName::Form10, [this]() -> SkinnedWindow* {
-        ADD_FAILURE() << "opened";
-        return new SkinnedWindow(Context(), {});
-    });
-    auto& panel = Panel();
-    const test::ScriptedBoxes boxes;
-    Click(panel, "Command56");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].text, QStringLiteral("Please select template!"));
+    test::ScriptedBoxes boxes;
+    page.more.Click();
+    EXPECT_EQ(boxes.One(), "|Please select template!");
+    EXPECT_EQ(windows.Find(WindowName::Form10), nullptr);
     EXPECT_TRUE(Find(Main(), "Frame2").isVisible());
 }
 

@@ -1,14 +1,13 @@
+#include "settings/final_step/build_page.h"
+
+#include "core/files/runtime_error.h"
+#include "settings/final_step/build_window.h"
+#include "settings/main/main_window_page.h"
 #include "support/build_project.h"
 #include "support/program_windows.h"
 #include "support/recording_shell.h"
 
-#include "core/files/runtime_error.h"
-#include "services/controls/status_label.h"
-#include "settings/final_step/build_window.h"
-
-#include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QTimer>
 
@@ -18,7 +17,7 @@ class BuildWindow : public test::ProgramWindows {
 protected:
     BuildWindow() {
         qputenv("TMPDIR", QByteArray::fromStdString(folder.Native().string()));
-        Document() = *project_.document;
+        Document() = *project.document;
     }
     ~BuildWindow() override { qunsetenv("TMPDIR"); }
 
@@ -26,113 +25,102 @@ protected:
         Main();
         return static_cast<Form8&>(windows.OpenFromMain(WindowName::Form8));
     }
-    static QString Status(QWidget& form) { return Find<StatusLabel>(form, "Label1").Text(); }
-    static QString NameStyle(QWidget& form) { return Find(form, "Text1").styleSheet(); }
+    /// What lies in the disc's folder.
+    [[nodiscard]] std::string Disc() const { return test::Listing(project.folder.Native("disc")); }
 
-    test::BuildProject project_;
+    test::BuildProject project;
+    test::ScriptedBoxes boxes;
 };
 
 TEST_F(BuildWindow, ShowsFolderNameAndWishAndNeedsAFolder) {
     session.settings.testAfterBuild = true;
     {
         auto& form = Open();
-        EXPECT_EQ(Find<QLabel>(form, "Label2").toolTip().toStdString(), Document().CdFolder());
-        EXPECT_EQ(Find<QLineEdit>(form, "Text1").text(), QStringLiteral("Holiday"));
-        EXPECT_TRUE(Find<QCheckBox>(form, "Check1").isChecked());
+        const BuildPage page(form);
+        EXPECT_EQ(page.folder.Tooltip(), Document().CdFolder());
+        EXPECT_EQ(page.name.Text(), "Holiday");
+        EXPECT_TRUE(page.startsAfter.IsTicked());
         form.Unload();
     }
     Settle();
     EXPECT_NE(Shown(WindowName::Form1), nullptr);
     Document().OsnovnaPodesavanja.GlavniDirektorijum.clear();
-    auto& form = Open();
-    EXPECT_EQ(Find<QLabel>(form, "Label2").text(),
+    const BuildPage page(Open());
+    EXPECT_EQ(page.folder.As<QLabel>().text(),
               QStringLiteral("CD-ROM FILES FOLDER NOT SELECTED! GO BACK TO MAIN AUTORUN SETTINGS."))
         << "all of it is seen";
-    EXPECT_FALSE(Find(form, "Command1").isEnabled());
+    EXPECT_FALSE(page.build.IsEnabled());
 }
 
 TEST_F(BuildWindow, ACompressFolderThatCannotBeUsedIsToldAndNothingIsTouched) {
-    auto& form = Open();
-    const std::string old = "an earlier package";
-    project_.folder.Write("disc/autorun.arn", old);
-    folder.Write("file", "in the way");
+    const BuildPage page(Open());
+    project.folder.Write("disc/autorun.arn", "an earlier package");
     for (const std::string& unusable :
-         {Document().CdFolder(), folder.Document("gone"), folder.Document("file")}) {
+         {Document().CdFolder(), folder.Document("gone"), folder.Write("file", "in the way")}) {
         session.settings.buildFolder = unusable;
-        test::ScriptedBoxes boxes({BoxAnswer::Ok});
-        Click(form, "Command1");
-        ASSERT_EQ(boxes.shown.size(), 1U) << unusable;
-        EXPECT_TRUE(boxes.shown[0].text.startsWith(
-            QStringLiteral("The temporary compress folder cannot be used.")));
-        EXPECT_EQ(project_.folder.Read("disc/autorun.arn"), old);
-        EXPECT_TRUE(Find(form, "Command1").isEnabled());
+        page.build.Click();
+        EXPECT_TRUE(boxes.One().starts_with("Error...|The temporary compress folder cannot be "
+                                            "used."))
+            << unusable;
+        EXPECT_EQ(project.folder.Read("disc/autorun.arn"), "an earlier package");
+        EXPECT_TRUE(page.build.IsEnabled());
     }
 }
 
 TEST_F(BuildWindow, NamesAreRefusedUntilTheyAreGood) {
     auto& form = Open();
-    Type(form, "Text1", QStringLiteral("my app"));
-    test::ScriptedBoxes boxes;
-    Click(form, "Command1");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].title, QString());
-    EXPECT_TRUE(boxes.shown[0].text.contains(QStringLiteral("\\''?*<':>+[]/\r\n\r\nYou want")));
-    EXPECT_EQ(Find<QLineEdit>(form, "Text1").text(), QStringLiteral("my_app"));
-    EXPECT_EQ(NameStyle(form), QStringLiteral("background: #ffff00"));
-    EXPECT_EQ(test::Listing(project_.folder.Native("disc")), "");
+    const BuildPage page(form);
+    page.name.Type("my app");
+    page.build.Click();
+    const std::string objection = boxes.One();
+    EXPECT_TRUE(objection.starts_with("|"));
+    EXPECT_NE(objection.find("\\''?*<':>+[]/\r\n\r\nYou want"), std::string::npos);
+    EXPECT_EQ(page.name.Text(), "my_app");
+    EXPECT_EQ(page.name.As().styleSheet(), QStringLiteral("background: #ffff00"));
+    EXPECT_EQ(Disc(), "");
 
-    Type(form, "Text1", QString());
-    Click(form, "Command1");
-    ASSERT_EQ(boxes.shown.size(), 2U);
-    EXPECT_EQ(boxes.shown[1].text, QStringLiteral("Filename cannot be blank!"));
+    page.name.Type("");
+    page.build.Click();
+    EXPECT_EQ(boxes.One(), "|Filename cannot be blank!");
     EXPECT_TRUE(form.Unload()) << "nothing runs";
 }
 
 TEST_F(BuildWindow, AMissingFolderLeadsBackToItsField) {
-    std::filesystem::remove(project_.folder.Native("disc"));
-    auto& form = Open();
-    test::ScriptedBoxes boxes;
-    Click(form, "Command1");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Error..."));
+    std::filesystem::remove(project.folder.Native("disc"));
+    BuildPage(Open()).build.Click();
+    EXPECT_EQ(boxes.One(), "Error...|" + Document().CdFolder() +
+                               " does not exist!\r\nYou have to select CD-ROM files folder on "
+                               "your local disk.");
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
-    EXPECT_EQ(boxes.shown[0].text.toStdString(),
-              Document().CdFolder() + " does not exist!\r\nYou have to select CD-ROM files folder "
-                                      "on your local disk.");
     EXPECT_EQ(windows.Find(WindowName::Form8), nullptr);
     ASSERT_NE(Shown(WindowName::Form1), nullptr);
-    EXPECT_TRUE(Find(*Shown(WindowName::Form1), "Frame2").isVisible());
+    EXPECT_TRUE(MainWindowPage(Main()).mainSettingsPanel.IsVisible());
 }
 
 TEST_F(BuildWindow, BuildsStaysOpenMeanwhileAndTellsThatTheStartFailed) {
     auto& form = Open();
-    Find<QCheckBox>(form, "Check1").setChecked(true);
+    const BuildPage page(form);
+    page.startsAfter.Tick();
     test::RecordingShell shell;
     shell.objection = "Wine is missing";
-    test::ScriptedBoxes boxes;
-    QString meanwhile;
-    bool refused = false;
-    bool disabled = false;
+    bool seen = false;
     QTimer::singleShot(50, &form, [&] {
-        meanwhile = Status(form);
-        refused = !form.Unload();
-        disabled = !Find(form, "Command1").isEnabled() && !Find(form, "Check1").isEnabled();
+        seen = true;
+        EXPECT_EQ(page.status.Text(), "Checking files...");
+        EXPECT_FALSE(form.Unload());
+        EXPECT_FALSE(page.build.IsEnabled() || page.startsAfter.IsEnabled());
         form.Build(); // a second build does not begin
     });
-    Click(form, "Command1");
-    EXPECT_EQ(meanwhile, QStringLiteral("Checking files..."));
-    EXPECT_TRUE(refused);
-    EXPECT_TRUE(disabled);
-    EXPECT_EQ(test::Listing(project_.folder.Native("disc")),
-              "Autorun.arn Autorun.ico Autorun.inf Holiday.exe");
-    EXPECT_EQ(Status(form), QStringLiteral("Completed..."));
-    EXPECT_TRUE(Find<QProgressBar>(form, "Progress").format().endsWith(QStringLiteral(", 100 %")));
-    EXPECT_EQ(Find<StatusLabel>(form, "Note").Text(), QString()) << "all was placed";
+    page.build.Click();
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(Disc(), "Autorun.arn Autorun.ico Autorun.inf Holiday.exe");
+    EXPECT_EQ(page.status.Text(), "Completed...");
+    EXPECT_TRUE(page.progress.As<QProgressBar>().format().endsWith(QStringLiteral(", 100 %")));
+    EXPECT_EQ(page.note.Text(), "") << "all was placed";
     EXPECT_EQ(shell.calls,
-              std::vector<std::string>{"program " + project_.folder.Document("disc/Holiday.exe")});
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].text, QStringLiteral("Wine is missing"));
-    EXPECT_TRUE(Find(form, "Command1").isEnabled());
+              std::vector<std::string>{"program " + project.folder.Document("disc/Holiday.exe")});
+    EXPECT_EQ(boxes.One(), "|Wine is missing");
+    EXPECT_TRUE(page.build.IsEnabled());
     EXPECT_TRUE(form.Unload());
 }
 
@@ -155,18 +143,17 @@ TEST_F(BuildWindow, ProgressIsToldInBytesAndPercent) {
 
 TEST_F(BuildWindow, AfterAFailureTheNextBuildCanBegin) {
     auto& form = Open();
+    const BuildPage page(form);
     Document().OsnovnaPodesavanja.PozadinskaSlika = "Z:\\gone\\back.bmp";
-    test::ScriptedBoxes boxes;
-    Click(form, "Command1");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Error in file"));
-    EXPECT_TRUE(Status(form).startsWith(QStringLiteral("Aborted\r\nThere was an error")));
-    EXPECT_TRUE(Find(form, "Command1").isEnabled());
+    page.build.Click();
+    EXPECT_TRUE(boxes.One().starts_with("Error in file|"));
+    EXPECT_TRUE(page.status.Text().starts_with("Aborted\r\nThere was an error"));
+    EXPECT_TRUE(page.build.IsEnabled());
 
-    project_.AddFilms(25); // more than a package holds
-    Document() = *project_.document;
+    project.AddFilms(25); // more than a package holds
+    Document() = *project.document;
     EXPECT_THROW(form.Build(), RuntimeError);
-    EXPECT_TRUE(Find(form, "Command1").isEnabled());
+    EXPECT_TRUE(page.build.IsEnabled());
     EXPECT_TRUE(form.Unload());
 }
 

@@ -1,13 +1,7 @@
-#include "support/program_windows.h"
+#include "settings/steps/step_pages.h"
 
-#include "services/controls/value_label.h"
 #include "services/sound/media_device.h"
-#include "settings/main/main_window.h"
-#include "support/user_input.h"
-
-#include <QAbstractSlider>
-#include <QCheckBox>
-#include <QLabel>
+#include "support/program_windows.h"
 
 namespace tavmoor {
 
@@ -39,119 +33,99 @@ private:
 
 class SoundPanel : public test::ProgramWindows {
 protected:
-    QWidget& Panel() { return static_cast<Form1&>(Main()).ShowPanel(PanelName::Frame5); }
     SoundSpec& Sound() { return Document().Zvuk; }
+
+    SoundPage page{ShowPanel(PanelName::Frame5)};
 };
 
 TEST_F(SoundPanel, EditsRepeatPauseStartAndCaption) {
-    auto& panel = Panel();
-    const auto text = [&](const char* label) {
-        return Find<QLabel>(panel, label).text().toStdString();
-    };
-    const auto set = [&](const char* bar, int value) {
-        Find<QAbstractSlider>(panel, bar).setValue(value);
-    };
-    EXPECT_EQ(text("Label31"), "once");
-    EXPECT_EQ(text("Label33"), "1 second");
-    set("HScroll1", 2);
-    set("HScroll2", 2);
-    EXPECT_EQ(text("Label31"), "2 times");
-    EXPECT_EQ(text("Label33"), "2 seconds");
-    set("HScroll1", 5000);
-    set("HScroll2", 0);
+    const auto shown = [this] { return page.repeatText.Text() + ", " + page.pauseText.Text(); };
+    EXPECT_EQ(shown(), "once, 1 second");
+    page.repeat.Slide(2);
+    page.pause.Slide(2);
+    EXPECT_EQ(shown(), "2 times, 2 seconds");
+    page.repeat.Slide(5000);
+    page.pause.Slide(0);
     EXPECT_EQ(Sound().Ponovi, 1000);
     EXPECT_EQ(Sound().Pauza, 1);
-    PressKey(Find(panel, "HScroll1"), Qt::Key_Left);
-    EXPECT_EQ(text("Label31"), "999 times");
-    PressKey(Find(panel, "HScroll2"), Qt::Key_Right);
+    page.repeat.Press(Qt::Key_Left);
+    page.pause.Press(Qt::Key_Right);
+    EXPECT_EQ(shown(), "999 times, 2 seconds");
     EXPECT_EQ(Sound().Pauza, 2);
-    Click(panel, "Option2");
+    page.onDemand.Click();
     EXPECT_TRUE(Sound().Akcija);
-    Click(panel, "Option1");
+    page.atStart.Click();
     EXPECT_FALSE(Sound().Akcija);
-    Type(panel, "Text10", QStringLiteral("Music"));
+    page.caption.Type("Music");
     EXPECT_EQ(Sound().Komanda, "Music");
-}
 
-TEST_F(SoundPanel, TellsNumbersThatTheBarsCannotShow) {
+    // What a file has is shown, also when the bars cannot.
     Sound().Ponovi = 5000;
     Sound().Pauza = 90;
-    auto& panel = Panel();
-    EXPECT_EQ(Find<QLabel>(panel, "Label31").text(), QStringLiteral("5000 times"));
-    EXPECT_EQ(Find<QLabel>(panel, "Label33").text(), QStringLiteral("90 seconds"));
+    windows.Main()->ShowDocument();
+    EXPECT_EQ(shown(), "5000 times, 90 seconds");
     EXPECT_EQ(Sound().Ponovi, 5000);
 }
 
 TEST_F(SoundPanel, ChoosesTheBackgroundSound) {
-    auto& panel = Panel();
     session.settings.lastSoundFolder = folder.Document("last");
     test::ScriptedDialogs dialogs;
     test::ScriptedBoxes boxes;
-    const std::string bad = folder.Write("a/so$ng.mp3", "x");
-    dialogs.AnswerFile(bad);
-    Click(panel, "Command14");
+    dialogs.AnswerFile(folder.Write("a/so$ng.mp3", "x"));
+    page.browseMusic.Click();
     EXPECT_EQ(boxes.shown.size(), 1U) << "the name is refused";
     EXPECT_EQ(Sound().Fajl, "");
     EXPECT_EQ(session.settings.lastSoundFolder, folder.Document("last"));
 
     const std::string song = folder.Write("a/song.mp3", "x");
     dialogs.AnswerFile(song);
-    Click(panel, "Command14");
+    page.browseMusic.Click();
     EXPECT_EQ(Sound().Fajl, song);
-    EXPECT_EQ(Find<ValueLabel>(panel, "Label34").FullText().toStdString(), song);
+    EXPECT_EQ(page.music.Text(), song);
     EXPECT_EQ(session.settings.lastSoundFolder, folder.Document("a") + "\\");
-    auto& label = Find<ValueLabel>(panel, "Label34");
-    EXPECT_TRUE(test::DropPath(label, folder.Native("a/so$ng.mp3")));
+    EXPECT_TRUE(test::DropPath(page.music, folder.Native("a/so$ng.mp3")));
     EXPECT_EQ(boxes.shown.size(), 1U) << "a box within the drop would hold its source";
     Settle();
     EXPECT_EQ(boxes.shown.size(), 2U);
     EXPECT_EQ(Sound().Fajl, song);
     folder.Write("song.exe", "x");
-    EXPECT_FALSE(Drop(label, folder.Native("song.exe")));
+    EXPECT_FALSE(page.music.Drop(folder.Native("song.exe")));
 #ifndef _WIN32
     std::filesystem::copy_file(folder.Native("a/song.mp3"), folder.Native("so\\ng.MP3"));
-    EXPECT_TRUE(Drop(label, folder.Native("so\\ng.MP3")));
-    EXPECT_TRUE(label.property("refused").toBool());
+    EXPECT_TRUE(page.music.Drop(folder.Native("so\\ng.MP3")));
+    EXPECT_TRUE(page.music.IsRefused());
     EXPECT_EQ(Sound().Fajl, song);
 #endif
-    EXPECT_TRUE(Drop(label, folder.Native("a/song.mp3")));
-    EXPECT_FALSE(label.property("refused").toBool());
-    EXPECT_EQ(label.toolTip().toStdString(), song);
-    Click(panel, "Command45");
+    EXPECT_TRUE(page.music.Drop(folder.Native("a/song.mp3")));
+    EXPECT_FALSE(page.music.IsRefused());
+    EXPECT_EQ(page.music.Tooltip(), song);
+    page.removeMusic.Click();
     EXPECT_EQ(Sound().Fajl, "");
 }
 
 TEST_F(SoundPanel, TheClickSoundSwitchesItsFlag) {
-    auto& panel = Panel();
-    auto& flag = Find<QCheckBox>(panel, "Check15");
     folder.Write("click.wav", "x");
-    EXPECT_TRUE(Drop(Find(panel, "Label78"), folder.Native("click.wav")));
-    EXPECT_TRUE(flag.isChecked());
-    EXPECT_TRUE(Sound().Signal);
-    Click(panel, "Command46");
-    EXPECT_FALSE(flag.isChecked());
-    EXPECT_FALSE(Sound().Signal);
+    EXPECT_TRUE(page.clickSound.Drop(folder.Native("click.wav")));
+    EXPECT_TRUE(page.clicks.IsTicked() && Sound().Signal);
+    page.removeClick.Click();
+    EXPECT_FALSE(page.clicks.IsTicked() || Sound().Signal);
     EXPECT_EQ(Sound().SignalFajl, "");
 }
 
 TEST_F(SoundPanel, HearingAgainBeginsAfresh) {
     LoggingDevice device;
-    auto& panel = Panel();
+    const auto logged = [&device](const test::Control& button) {
+        device.log.clear();
+        button.Click();
+        return device.log;
+    };
     Sound().Fajl = folder.Write("song.mp3", "x");
-    Click(panel, "Command15");
-    Click(panel, "Command15");
-    const std::string once = "stop;close;open song.mp3;play;";
-    EXPECT_EQ(device.log, once + once);
-    device.log.clear();
-    Click(panel, "Command16");
-    EXPECT_EQ(device.log, "stop;close;stop;close;");
-    device.log.clear();
-    Click(panel, "Command35");
-    EXPECT_EQ(device.log, "stop;close;");
-    Document().Zvuk.Fajl.clear();
-    device.log.clear();
-    Click(panel, "Command15");
-    EXPECT_EQ(device.log, "stop;close;");
+    EXPECT_EQ(logged(page.hear), "stop;close;open song.mp3;play;");
+    EXPECT_EQ(logged(page.hear), "stop;close;open song.mp3;play;");
+    EXPECT_EQ(logged(page.stop), "stop;close;stop;close;");
+    EXPECT_EQ(logged(page.stopClick), "stop;close;");
+    Sound().Fajl.clear();
+    EXPECT_EQ(logged(page.hear), "stop;close;");
 }
 
 } // namespace tavmoor

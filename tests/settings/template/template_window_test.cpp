@@ -1,162 +1,154 @@
-#include "settings/template/template_window.h"
+#include "settings/template/template_page.h"
 
+#include "settings/main/main_window_page.h"
 #include "settings/template/template_capabilities.h"
+#include "settings/template/template_window.h"
+#include "support/picture_file.h"
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 
-#include <QImage>
 #include <QListWidget>
-#include <QRadioButton>
-#include <QTextEdit>
 
 namespace tavmoor {
 
 class TemplateWindow : public test::ProgramWindows {
 protected:
     TemplateWindow() {
-        AddTemplate("one/Plain.tavt", "Plain");
-        AddTemplate("a/b/c/Deep.tavt", "Deep");
-        AddTemplate("two/Second.tavt", "Plain");
-        AddTemplate("Advanced visual editor/Advanced visual editor.Atavt", "ADVANCED VISUAL EDITOR",
-                    "[Additional settings]\r\nEnable=1\r\n");
-        Main();
+        AddTemplate("one", "Plain.tavt", "Plain");
+        AddTemplate("a/b/c", "Deep.tavt", "Deep");
+        AddTemplate("two", "Second.tavt", "Plain");
+        AddTemplate("Advanced visual editor", "Advanced visual editor.Atavt",
+                    "ADVANCED VISUAL EDITOR", "[Additional settings]\r\nEnable=1\r\n");
     }
 
-    void AddTemplate(const std::string& file, const std::string& name,
+    void AddTemplate(const std::string& place, const std::string& file, const std::string& name,
                      const std::string& more = "") {
-        const std::string path = "program/Templates/" + file;
-        folder.Write(path, "[Template]\r\nName=" + name + "\r\n" + more);
-        const std::filesystem::path place = folder.Native(path).parent_path();
-        folder.Write("program/Templates/" + file.substr(0, file.rfind('/')) + "/opis.rtf",
-                     "{\\rtf1 About " + name + "}");
-        QImage image(400, 300, QImage::Format_RGB32);
-        image.fill(Qt::blue);
-        EXPECT_TRUE(image.save(QString::fromStdString((place / "template.jpg").string()), "PNG"));
+        const std::string in = "program/Templates/" + place + "/";
+        folder.Write(in + file, "[Template]\r\nName=" + name + "\r\n" + more);
+        folder.Write(in + "opis.rtf", "{\\rtf1 About " + name + "}");
+        test::WritePicture(folder, in + "template.jpg", Qt::blue, {400, 300});
     }
 
-    SkinnedWindow& OpenWindow() {
-        Click(Main(), "Command11");
-        return *Shown(WindowName::Form7);
+    TemplatePage Open() {
+        MainWindowPage(Main()).chooseTemplate.Click();
+        return TemplatePage(*Shown(WindowName::Form7));
     }
-    static int RowOf(SkinnedWindow& form, const char* name) {
-        const auto items =
-            Find<QListWidget>(form, "List1").findItems(QString::fromLatin1(name), Qt::MatchExactly);
-        return Find<QListWidget>(form, "List1").row(items.at(0));
+    static int RowOf(const TemplatePage& page, const char* name) {
+        const auto& list = page.names.As<QListWidget>();
+        return list.row(list.findItems(QString::fromLatin1(name), Qt::MatchExactly).at(0));
     }
-    static void ClickRow(SkinnedWindow& form, int row) {
-        auto& list = Find<QListWidget>(form, "List1");
-        ClickAt(*list.viewport(), list.visualItemRect(list.item(row)).center());
+    static void ClickRow(const TemplatePage& page, int row) {
+        const auto& list = page.names.As<QListWidget>();
+        test::Control::ClickAt(*list.viewport(), list.visualItemRect(list.item(row)).center());
     }
-    static QString Description(SkinnedWindow& form) {
-        return Find<QTextEdit>(form, "rt1").toPlainText().trimmed();
+    /// Presses the chrome in one of its thirds.
+    static void ClickChrome(const TemplatePage& page, int third) {
+        page.chrome.ClickAt({page.chrome.As().width() * (2 * third + 1) / 6, 5});
     }
+
+    BaseSettings& base = session.document.OsnovnaPodesavanja;
 };
 
 TEST_F(TemplateWindow, ATemplateIsChosenByAClickAndOk) {
-    auto& form = OpenWindow();
-    EXPECT_EQ(Find<QListWidget>(form, "List1").count(), 3);
-    EXPECT_TRUE(Find<QRadioButton>(form, "Option1").isChecked());
-    EXPECT_FALSE(Find(form, "List1").isEnabled());
-    EXPECT_EQ(Description(form), QStringLiteral("About ADVANCED VISUAL EDITOR"));
+    const TemplatePage page = Open();
+    EXPECT_EQ(page.names.As<QListWidget>().count(), 3);
+    EXPECT_TRUE(page.editor.IsTicked());
+    EXPECT_FALSE(page.names.IsEnabled());
+    EXPECT_EQ(page.description.Text(), "About ADVANCED VISUAL EDITOR");
 
-    Click(form, "Option2");
+    page.simple.Click();
     test::ScriptedBoxes boxes;
-    Click(form, "Command1");
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Nothing selected..."));
-    EXPECT_EQ(boxes.shown[0].text,
-              QStringLiteral("Please select template or Advanced Visual Editor"));
+    page.ok.Click();
+    EXPECT_EQ(boxes.One(), "Nothing selected...|Please select template or Advanced Visual Editor");
 
-    ClickRow(form, RowOf(form, "Deep"));
-    EXPECT_EQ(Description(form), QStringLiteral("About Deep"));
-    Click(form, "Command1");
+    ClickRow(page, RowOf(page, "Deep"));
+    EXPECT_EQ(page.description.Text(), "About Deep");
+    page.ok.Click();
     EXPECT_EQ(Shown(WindowName::Form7), nullptr);
-    EXPECT_TRUE(Main().isVisible());
+    EXPECT_NE(Shown(WindowName::Form1), nullptr);
     EXPECT_EQ(Document().Working.TemplateName, "Deep");
-    EXPECT_TRUE(SamePath(Document().OsnovnaPodesavanja.Sablon,
-                         folder.Document("program/Templates/a/b/c/Deep.tavt")));
+    EXPECT_TRUE(SamePath(base.Sablon, folder.Document("program/Templates/a/b/c/Deep.tavt")));
     EXPECT_EQ(Document().OsnovniPodaci.Glavninaslov, "New project...");
 }
 
 TEST_F(TemplateWindow, TheProjectsTemplateIsSelectedInAnyCaseAndEnterTakesIt) {
-    std::string path = folder.Document("program/TEMPLATES/A/b/C/dEEP.tavt");
-    Document().OsnovnaPodesavanja.Sablon = path;
-    auto& form = OpenWindow();
-    auto& list = Find<QListWidget>(form, "List1");
-    EXPECT_EQ(list.currentRow(), RowOf(form, "Deep"));
-    EXPECT_EQ(Find<QListWidget>(form, "List3").currentRow(), list.currentRow());
+    base.Sablon = folder.Document("program/TEMPLATES/A/b/C/dEEP.tavt");
+    const TemplatePage page = Open();
+    auto& list = page.names.As<QListWidget>();
+    EXPECT_EQ(list.currentRow(), RowOf(page, "Deep"));
+    EXPECT_EQ(page.paths.As<QListWidget>().currentRow(), list.currentRow());
     EXPECT_TRUE(list.isEnabled());
     list.setFocus();
-    PressKey(list, Qt::Key_Return);
+    page.names.Press(Qt::Key_Return);
     EXPECT_EQ(Document().Working.TemplateName, "Deep");
     EXPECT_EQ(Shown(WindowName::Form7), nullptr);
 }
 
 TEST_F(TemplateWindow, CancelAndChromeChangeNothingAndBringTheMainWindowBack) {
-    Document().OsnovnaPodesavanja.Sablon = "C:\\gone\\gone.tavt";
-    auto* form = &OpenWindow();
-    EXPECT_TRUE(Find<QRadioButton>(*form, "Option1").isChecked()) << "the folder is gone";
-    Click(*form, "Command2");
-    EXPECT_EQ(Shown(WindowName::Form7), nullptr);
-
-    form = &OpenWindow();
-    auto& chrome = Find(*form, "Image113");
-    ClickAt(chrome, {chrome.width() / 6, 5});
+    base.Sablon = "C:\\gone\\gone.tavt";
+    {
+        const TemplatePage page = Open();
+        EXPECT_TRUE(page.editor.IsTicked()) << "the folder is gone";
+        page.cancel.Click();
+        EXPECT_EQ(Shown(WindowName::Form7), nullptr);
+    }
+    const TemplatePage page = Open();
+    SkinnedWindow* form = Shown(WindowName::Form7);
+    ClickChrome(page, 0);
     EXPECT_EQ(Shown(WindowName::Form7), form);
-    ClickAt(chrome, {chrome.width() / 2, 5});
+    EXPECT_FALSE(form->isMinimized());
+    ClickChrome(page, 1);
     EXPECT_TRUE(form->isMinimized());
     form->Present();
-    ClickAt(chrome, {chrome.width() * 5 / 6, 5});
+    ClickChrome(page, 2);
     EXPECT_EQ(Shown(WindowName::Form7), nullptr);
-    EXPECT_TRUE(Main().isVisible());
-    EXPECT_EQ(Document().OsnovnaPodesavanja.Sablon, "C:\\gone\\gone.tavt");
+    EXPECT_NE(Shown(WindowName::Form1), nullptr);
+    EXPECT_EQ(base.Sablon, "C:\\gone\\gone.tavt");
 }
 
 TEST_F(TemplateWindow, ThePictureGrowsAndShrinksToItsTwoSmallPlaces) {
-    auto& form = OpenWindow();
-    auto& picture = Find(form, "Picture1");
+    const TemplatePage page = Open();
+    SkinnedWindow& form = *Shown(WindowName::Form7);
     const QRect small(432, 56, 297, 161);
-    EXPECT_EQ(picture.geometry(), small);
-    Click(picture);
-    EXPECT_EQ(picture.geometry(), QRect(0, 29, 400, 300));
-    Click(picture);
-    EXPECT_EQ(picture.geometry(), small);
-    ClickAt(form, {5, form.height() - 5});
-    EXPECT_EQ(picture.geometry(), small) << "only a full picture shrinks";
-    Click(picture);
-    ClickAt(form, {5, form.height() - 5});
-    EXPECT_EQ(picture.geometry(), QRect(432, 64, 297, 121));
+    const auto afterClick = [&](bool besideIt = false) {
+        besideIt ? ClickAt(form, {5, form.height() - 5}) : page.picture.Click();
+        return page.picture.As().geometry();
+    };
+    EXPECT_EQ(page.picture.As().geometry(), small);
+    EXPECT_EQ(afterClick(), QRect(0, 29, 400, 300));
+    EXPECT_EQ(afterClick(), small);
+    EXPECT_EQ(afterClick(true), small) << "only a full picture shrinks";
+    afterClick();
+    EXPECT_EQ(afterClick(true), QRect(432, 64, 297, 121));
 }
 
 TEST_F(TemplateWindow, ATemplateWithoutPictureAndTextLeavesTheirPlacesEmpty) {
     folder.Write("program/Templates/bare/Bare.tavt", "[Template]\r\nName=Bare\r\n");
-    auto& form = OpenWindow();
-    Click(form, "Option2");
-    ClickRow(form, RowOf(form, "Bare"));
-    EXPECT_EQ(Description(form), QString());
-    auto& picture = Find(form, "Picture1");
-    const QRect small = picture.geometry();
-    Click(picture);
-    EXPECT_EQ(picture.geometry(), small);
+    const TemplatePage page = Open();
+    page.simple.Click();
+    ClickRow(page, RowOf(page, "Bare"));
+    EXPECT_EQ(page.description.Text(), "");
+    const QRect small = page.picture.As().geometry();
+    page.picture.Click();
+    EXPECT_EQ(page.picture.As().geometry(), small);
 }
 
 TEST_F(TemplateWindow, TheChoiceOpensOrClosesTheWindowsOfTheVisualEditor) {
     test::PlainWindow::Register(Context(), WindowName::Form16);
     test::PlainWindow::Register(Context(), WindowName::Form17);
-    Click(OpenWindow(), "Command1");
-    EXPECT_EQ(Document().OsnovnaPodesavanja.Sablon,
-              session.programFolder +
-                  "\\Templates\\Advanced visual editor\\Advanced visual editor.Atavt");
-    SkinnedWindow* panel = Shown(WindowName::Form17);
+    Open().ok.Click();
+    EXPECT_EQ(base.Sablon, session.programFolder +
+                               "\\Templates\\Advanced visual editor\\Advanced visual editor.Atavt");
+    const SkinnedWindow* panel = Shown(WindowName::Form17);
     ASSERT_NE(panel, nullptr);
     EXPECT_EQ(panel->pos().y(), Main().pos().y());
     EXPECT_EQ(panel->height(), Main().height());
     windows.Load(WindowName::Form16);
 
-    auto& form = OpenWindow();
-    Click(form, "Option2");
-    ClickRow(form, 0);
-    Click(form, "Command1");
+    const TemplatePage page = Open();
+    page.simple.Click();
+    ClickRow(page, 0);
+    page.ok.Click();
     EXPECT_EQ(windows.Find(WindowName::Form17), nullptr);
     EXPECT_EQ(windows.Find(WindowName::Form16), nullptr);
 }
