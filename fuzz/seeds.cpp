@@ -7,6 +7,7 @@
 #include "core/document/project_reset.h"
 #include "support/package_bytes.h"
 #include "support/pe_image.h"
+#include "support/picture_bytes.h"
 
 #include <filesystem>
 #include <fstream>
@@ -86,6 +87,24 @@ void WritePackageSeeds(const fs::path& folder) {
           test::PackageBytes({{"../a", "x"}, {"nul", "y"}, {"A", "1"}, {"a", "2"}}));
 }
 
+void WritePictureSeeds(const fs::path& folder) {
+    using namespace tavmoor::test;
+    Write(folder / "jpg", ProgressiveJpg(600, 300, 3, 4));
+    Write(folder / "gif", Gif(16, 8));
+    Write(folder / "bmp", BmpHeaders(4, -2, 24, 0) + std::string(24, 'r'));
+    Write(folder / "packed_bmp", BmpHeaders(40, 2, 8, 1) + std::string(1030, '\0'));
+    Write(folder / "old_bmp", "BM" + Longs({0, 0, 26, 12}) + Words({8, 2, 1, 1}) + "palette.rows.");
+    Write(folder / "icon", IconFile(1, {{16, 16, "small"}, {0, 0, PngSignature + "large"}}));
+    Write(folder / "cursor", IconFile(2, {{32, 32, "pixels"}}));
+    Write(folder / "png", PngSignature + PngChunk("IHDR", "size") + PngChunk("tEXt", "words") +
+                              PngChunk("IDAT", "pixels") + PngChunk("IEND", ""));
+    const std::string wmf =
+        Wmf(40, 30, WmfRecord(0x020B, Words({3, 4})) + WmfRecord(0x020C, Words({-30, 40})));
+    Write(folder / "placed_wmf", wmf);
+    Write(folder / "wmf", wmf.substr(22));
+    Write(folder / "emf", Emf(40, 30, 1, EmfRecord(37, Longs({1}))));
+}
+
 void WriteVersionSeeds(const fs::path& folder) {
     using namespace tavmoor::test;
     const std::string usual = VersionResourceOf(u"Orlenta");
@@ -107,10 +126,14 @@ int main(int argc, char** argv) {
     WriteProfileSeeds(folder / "profile_reader");
     WriteProjectSeeds(folder / "project_reader");
     WritePackageSeeds(folder / "package_reader");
+    WritePictureSeeds(folder / "picture_headers");
     WriteVersionSeeds(folder / "version_block");
     Write(folder / "project_reader.dict", ProjectDictionary());
     Write(folder / "package_reader.dict", "\"TAVMOOR PACKAGE\"\n\"[Pocetak]\"\n\"[Kraj]\"\n"
                                           "\"\\x0d\\x0a\\x0d\\x0a\\x0d\\x0a\"\n"
                                           "\"\\x0d\\x0a\\x0d\\x0a\"\n");
+    Write(folder / "picture_headers.dict",
+          "\"\\xff\\xd8\\xff\"\n\"\\xff\\xda\"\n\"GIF89a\"\n\"\\x89PNG\\x0d\\x0a\\x1a\\x0a\"\n"
+          "\"BM\"\n\" EMF\"\n\"\\xd7\\xcd\\xc6\\x9a\"\n\"IHDR\"\n\"IEND\"\n");
     Write(folder / "version_block.dict", "\"MZ\"\n\"PE\\x00\\x00\"\n");
 }

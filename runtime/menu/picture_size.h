@@ -15,7 +15,4 @@ inline constexpr long long MostPicturePixels = 64LL * 1024 * 1024;
 /// damaged file and for a picture of more than MostPicturePixels.
 std::optional<Extent> ReadPictureSize(std::string_view bytes);
 
-/// True for the head of an emf or a placeable wmf file: drawing commands, not pixels.
-bool IsMetafile(std::string_view bytes);
-
 } // namespace tavmoor

@@ -1,6 +1,6 @@
 #include "menu/sound_plan.h"
 
-#include "menu/little_endian.h"
+#include "core/formats/byte_view.h"
 
 #include <algorithm>
 
@@ -31,17 +31,18 @@ bool IsWholeWave(std::string_view bytes) {
     constexpr std::size_t chunkHead = 8;
     constexpr std::size_t riffHead = 12;
     constexpr std::size_t leastFormat = 16;
+    const ByteView view(bytes);
     if (bytes.size() < riffHead || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") {
         return false;
     }
-    const std::size_t end = chunkHead + Little32(bytes, 4);
+    const std::size_t end = chunkHead + view.U32(4);
     if (end > bytes.size()) {
         return false;
     }
     bool format = false;
     for (std::size_t position = riffHead; end - position >= chunkHead;) {
         const std::string_view name = bytes.substr(position, 4);
-        const std::size_t size = Little32(bytes, position + 4);
+        const std::size_t size = view.U32(position + 4);
         position += chunkHead;
         if (size > end - position) {
             return false;

@@ -1,6 +1,7 @@
 #include "window/picture_store.h"
 
-#include "menu/icon_picture.h"
+#include "core/formats/icon_directory.h"
+#include "core/formats/picture_format.h"
 #include "menu/picture_size.h"
 
 #include <optional>
@@ -43,8 +44,8 @@ std::optional<Decoded> Decode(AutorunDisc& disc, const std::string& name) {
     if (!size) {
         return std::nullopt;
     }
-    if (const auto icon = LargestOfIcon(*bytes)) {
-        bytes = FileOf(*icon);
+    if (const auto icon = WidestIconPicture(*bytes)) {
+        bytes = SinglePictureFile(*icon);
     }
     Decoded decoded;
     decoded.stream.reset(SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes->data()),
@@ -52,7 +53,7 @@ std::optional<Decoded> Decode(AutorunDisc& disc, const std::string& name) {
     if (!decoded.stream) {
         return std::nullopt;
     }
-    if (IsMetafile(*bytes)) {
+    if (IsMetafile(PictureFormatOf(*bytes))) {
         decoded.bitmap = Rasterize(*decoded.stream, *size);
     } else {
         decoded.bitmap.reset(Gdiplus::Bitmap::FromStream(decoded.stream.get()));

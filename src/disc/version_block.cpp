@@ -1,8 +1,8 @@
 #include "disc/version_block.h"
 
+#include "core/formats/byte_view.h"
 #include "core/text/code_page.h"
 #include "core/text/text_case.h"
-#include "disc/little_endian.h"
 
 #include <algorithm>
 #include <array>
@@ -12,8 +12,6 @@
 namespace tavmoor {
 
 namespace {
-
-using View = std::span<const unsigned char>;
 
 /// A block of the tree in a version resource: a key, a value, and child blocks behind the value.
 /// Offsets count from the start of the resource, on which the alignment rests, too.
@@ -30,27 +28,27 @@ constexpr std::size_t Align(std::size_t offset) {
 }
 
 /// The end of the UTF-16 text that starts at an offset: its NUL, or `end`.
-std::size_t TextEnd(View data, std::size_t start, std::size_t end) {
+std::size_t TextEnd(const ByteView& data, std::size_t start, std::size_t end) {
     std::size_t at = start;
-    while (at + 2 <= end && LittleEndian16(data, at) != 0) {
+    while (at + 2 <= end && data.U16(at) != 0) {
         at += 2;
     }
     return at;
 }
 
 /// The block at an offset, which its parent's end cuts: some compilers count a length too high.
-std::optional<Block> BlockAt(View data, std::size_t start, std::size_t parentEnd) {
+std::optional<Block> BlockAt(const ByteView& data, std::size_t start, std::size_t parentEnd) {
     constexpr std::size_t headerSize = 6;
     if (start > parentEnd || parentEnd - start < headerSize) {
         return std::nullopt;
     }
-    const std::size_t length = LittleEndian16(data, start);
+    const std::size_t length = data.U16(start);
     if (length < headerSize) {
         return std::nullopt;
     }
     // The length of a text counts characters.
-    const bool isText = LittleEndian16(data, start + 4) == 1;
-    const std::size_t valueBytes = LittleEndian16(data, start + 2) * std::size_t{isText ? 2U : 1U};
+    const bool isText = data.U16(start + 4) == 1;
+    const std::size_t valueBytes = data.U16(start + 2) * std::size_t{isText ? 2U : 1U};
     Block block{};
     block.end = std::min(start + length, parentEnd);
     block.keyStart = start + headerSize;
@@ -60,12 +58,12 @@ std::optional<Block> BlockAt(View data, std::size_t start, std::size_t parentEnd
     return block;
 }
 
-bool HasKey(View data, const Block& block, std::string_view key) {
+bool HasKey(const ByteView& data, const Block& block, std::string_view key) {
     if (block.keyEnd - block.keyStart != key.size() * 2) {
         return false;
     }
     for (std::size_t i = 0; i < key.size(); ++i) {
-        const std::uint16_t character = LittleEndian16(data, block.keyStart + i * 2);
+        const std::uint16_t character = data.U16(block.keyStart + i * 2);
         if (character > '~' || LowerCase(static_cast<char>(character)) != LowerCase(key[i])) {
             return false;
         }
@@ -74,7 +72,7 @@ bool HasKey(View data, const Block& block, std::string_view key) {
 }
 
 /// The first child of that name. A block has at least its header's bytes, so the walk ends.
-std::optional<Block> FindChild(View data, const Block& parent, std::string_view key) {
+std::optional<Block> FindChild(const ByteView& data, const Block& parent, std::string_view key) {
     auto child = BlockAt(data, Align(parent.valueEnd), parent.end);
     while (child && !HasKey(data, *child, key)) {
         child = BlockAt(data, Align(child->end), parent.end);
@@ -82,8 +80,8 @@ std::optional<Block> FindChild(View data, const Block& parent, std::string_view 
     return child;
 }
 
-std::optional<Block> FindBlock(View data, std::initializer_list<std::string_view> path) {
-    auto block = BlockAt(data, 0, data.size());
+std::optional<Block> FindBlock(const ByteView& data, std::initializer_list<std::string_view> path) {
+    auto block = BlockAt(data, 0, data.Size());
     for (const std::string_view key : path) {
         if (block) {
             block = FindChild(data, *block, key);
@@ -93,7 +91,7 @@ std::optional<Block> FindBlock(View data, std::initializer_list<std::string_view
 }
 
 /// The key of the table of texts in the block's first language and code page: "040904b0".
-std::optional<std::string> TranslationKey(View data) {
+std::optional<std::string> TranslationKey(const ByteView& data) {
     const auto block = FindBlock(data, {"VarFileInfo", "Translation"});
     if (!block || block->valueEnd - block->valueStart < 4) {
         return std::nullopt;
@@ -102,20 +100,20 @@ std::optional<std::string> TranslationKey(View data) {
     std::string key;
     for (const std::size_t word : {block->valueStart, block->valueStart + 2}) {
         for (const unsigned shift : {12U, 8U, 4U, 0U}) {
-            key += digits[LittleEndian16(data, word) >> shift & 0xFU];
+            key += digits[data.U16(word) >> shift & 0xFU];
         }
     }
     return key;
 }
 
-std::string Utf8Of(View data, std::size_t start, std::size_t end) {
+std::string Utf8Of(const ByteView& data, std::size_t start, std::size_t end) {
     constexpr char32_t replacement = 0xFFFD;
     const auto isHigh = [](char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; };
     const auto isLow = [](char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; };
     std::string text;
     for (std::size_t at = start; at + 2 <= end; at += 2) {
-        const char32_t unit = LittleEndian16(data, at);
-        const char32_t next = at + 4 <= end ? LittleEndian16(data, at + 2) : 0;
+        const char32_t unit = data.U16(at);
+        const char32_t next = at + 4 <= end ? data.U16(at + 2) : 0;
         if (isHigh(unit) && isLow(next)) {
             AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10U) + (next - 0xDC00));
             at += 2;
@@ -129,16 +127,20 @@ std::string Utf8Of(View data, std::size_t start, std::size_t end) {
 } // namespace
 
 std::optional<std::string> ReadCompanyName(const ReadAt& read) {
-    const auto data = ReadVersionResource(read);
-    const auto translation = data ? TranslationKey(*data) : std::nullopt;
+    const auto resource = ReadVersionResource(read);
+    if (!resource) {
+        return std::nullopt;
+    }
+    const ByteView data(*resource);
+    const auto translation = TranslationKey(data);
     if (!translation) {
         return std::nullopt;
     }
-    const auto name = FindBlock(*data, {"StringFileInfo", *translation, "CompanyName"});
+    const auto name = FindBlock(data, {"StringFileInfo", *translation, "CompanyName"});
     if (!name) {
         return std::nullopt;
     }
-    return Utf8Of(*data, name->valueStart, TextEnd(*data, name->valueStart, name->valueEnd));
+    return Utf8Of(data, name->valueStart, TextEnd(data, name->valueStart, name->valueEnd));
 }
 
 std::optional<std::string> ReadCompanyName(const std::filesystem::path& path) {

@@ -1,10 +1,9 @@
 #include "disc/version_resource.h"
 
-#include "disc/little_endian.h"
+#include "core/formats/byte_view.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
+#include <string_view>
 
 namespace tavmoor {
 
@@ -41,18 +40,18 @@ public:
         constexpr std::size_t dosHeaderSize = 64;
         constexpr std::size_t headerOffsetAt = 60;
         const auto dos = Read(read_, 0, dosHeaderSize);
-        if (!dos || (*dos)[0] != 'M' || (*dos)[1] != 'Z') {
+        if (!dos || ByteView(*dos).Bytes(0, 2) != "MZ") {
             return false;
         }
         constexpr std::size_t headerSize = 24; // signature and file header
-        const std::uint64_t start = LittleEndian32(*dos, headerOffsetAt);
+        const std::uint64_t start = ByteView(*dos).U32(headerOffsetAt);
         const auto header = Read(read_, start, headerSize);
-        constexpr std::array<unsigned char, 4> signature{'P', 'E', 0, 0};
-        if (!header || !std::equal(signature.begin(), signature.end(), header->begin())) {
+        constexpr std::string_view signature("PE\0\0", 4);
+        if (!header || ByteView(*header).Bytes(0, signature.size()) != signature) {
             return false;
         }
-        const std::size_t sections = LittleEndian16(*header, 6);
-        const std::size_t optionalSize = LittleEndian16(*header, 20);
+        const std::size_t sections = ByteView(*header).U16(6);
+        const std::size_t optionalSize = ByteView(*header).U16(20);
         const std::uint64_t behind = start + headerSize;
         return ReadOptionalHeader(behind, optionalSize) &&
                ReadSections(behind + optionalSize, sections);
@@ -78,7 +77,7 @@ private:
         constexpr std::uint16_t magic32 = 0x10B;
         constexpr std::uint16_t magic64 = 0x20B;
         const auto magic = Read(read_, start, 2);
-        const std::uint16_t kind = magic ? LittleEndian16(*magic, 0) : std::uint16_t{0};
+        const std::uint16_t kind = magic ? ByteView(*magic).U16(0) : std::uint16_t{0};
         if (kind != magic32 && kind != magic64) {
             return false;
         }
@@ -87,10 +86,10 @@ private:
         constexpr std::size_t resourceAt = 4 + 2 * 8;
         constexpr std::size_t needed = 4 + 3 * 8;
         const auto directories = Read(read_, start + countAt, needed);
-        if (size < countAt + needed || !directories || LittleEndian32(*directories, 0) < 3) {
+        if (size < countAt + needed || !directories || ByteView(*directories).U32(0) < 3) {
             return false;
         }
-        resourceAddress_ = LittleEndian32(*directories, resourceAt);
+        resourceAddress_ = ByteView(*directories).U32(resourceAt);
         return resourceAddress_ != 0;
     }
 
@@ -102,8 +101,8 @@ private:
             return false;
         }
         for (std::size_t at = 0; at < table->size(); at += sectionSize) {
-            sections_.push_back({LittleEndian32(*table, at + 12), LittleEndian32(*table, at + 16),
-                                 LittleEndian32(*table, at + 20)});
+            sections_.push_back({ByteView(*table).U32(at + 12), ByteView(*table).U32(at + 16),
+                                 ByteView(*table).U32(at + 20)});
         }
         return true;
     }
@@ -123,16 +122,16 @@ std::optional<std::uint32_t> FindEntry(const Program& program, std::uint32_t fol
     if (!header) {
         return std::nullopt;
     }
-    const std::size_t named = LittleEndian16(*header, 12);
-    const std::size_t count = named + LittleEndian16(*header, 14);
+    const std::size_t named = ByteView(*header).U16(12);
+    const std::size_t count = named + ByteView(*header).U16(14);
     const auto entries =
         count <= MostEntries ? program.At(address + headerSize, count * entrySize) : std::nullopt;
     if (!entries) {
         return std::nullopt;
     }
     for (std::size_t at = 0; at < entries->size(); at += entrySize) {
-        if (!number || LittleEndian32(*entries, at) == *number) {
-            return LittleEndian32(*entries, at + 4);
+        if (!number || ByteView(*entries).U32(at) == *number) {
+            return ByteView(*entries).U32(at + 4);
         }
     }
     return std::nullopt;
@@ -165,10 +164,10 @@ std::optional<std::vector<unsigned char>> ReadVersionResource(const ReadAt& read
     }
     constexpr std::size_t entrySize = 16;
     const auto data = program.At(std::uint64_t{program.ResourceAddress()} + *entry, entrySize);
-    if (!data || LittleEndian32(*data, 4) > MostResourceBytes) {
+    if (!data || ByteView(*data).U32(4) > MostResourceBytes) {
         return std::nullopt;
     }
-    return program.At(LittleEndian32(*data, 0), LittleEndian32(*data, 4));
+    return program.At(ByteView(*data).U32(0), ByteView(*data).U32(4));
 }
 
 } // namespace tavmoor

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include "support/number_bytes.h"
+
 #include <string_view>
 #include <vector>
 
@@ -17,9 +17,6 @@ std::string VersionNode(std::u16string_view key, const std::string& value, bool 
 
 /// The UTF-16 bytes of a text with its NUL.
 std::string Utf16Bytes(std::u16string_view text);
-
-/// The bytes of a "Translation" value: language, code page.
-std::string TranslationBytes(std::uint16_t language, std::uint16_t codePage);
 
 /// A version resource around the given children, with the fixed information that each one has.
 std::string VersionResource(const std::vector<std::string>& children);
@@ -45,8 +42,12 @@ struct PeImage {
     std::size_t dataEntry = 0;
     std::size_t resource = 0; ///< the version resource itself
 
-    PeImage& Put16(std::size_t offset, std::uint16_t value);
-    PeImage& Put32(std::size_t offset, std::uint32_t value);
+    void Put16(std::size_t offset, std::uint64_t value) {
+        bytes.replace(offset, 2, Words({static_cast<std::int64_t>(value)}));
+    }
+    void Put32(std::size_t offset, std::uint64_t value) {
+        bytes.replace(offset, 4, Longs({static_cast<std::int64_t>(value)}));
+    }
 };
 
 PeImage MakePeImage(const std::string& versionResource, PeKind kind = PeKind::Pe32);

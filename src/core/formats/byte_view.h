@@ -2,15 +2,19 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace tavmoor {
 
-/// Reads numbers of picture files. What lies beyond the end reads as 0, so that a damaged file
-/// costs no more than a wrong number; Has tells where that matters.
+/// Reads numbers of foreign files: pictures, sounds and programs, lowest byte first unless the name
+/// says otherwise. What lies beyond the end reads as 0, so that a damaged file costs no more than a
+/// wrong number; Has tells where that matters.
 class ByteView {
 public:
     explicit ByteView(std::string_view bytes) noexcept : bytes_(bytes) {}
+    explicit ByteView(std::span<const unsigned char> bytes) noexcept
+        : bytes_(reinterpret_cast<const char*>(bytes.data()), bytes.size()) {}
 
     [[nodiscard]] std::size_t Size() const noexcept { return bytes_.size(); }
     [[nodiscard]] bool Has(std::size_t at, std::size_t count) const noexcept {
@@ -38,6 +42,7 @@ public:
     [[nodiscard]] std::int32_t I32(std::size_t at) const noexcept {
         return static_cast<std::int32_t>(U32(at));
     }
+    /// At most `count` bytes, fewer at the end of the file.
     [[nodiscard]] std::string_view Bytes(std::size_t at, std::size_t count) const noexcept {
         return at <= bytes_.size() ? bytes_.substr(at, count) : std::string_view{};
     }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/formats/pixel_size.h"
+
 #include <cstddef>
+#include <cstdint>
 #include <optional>
-#include <string_view>
 
 namespace tavmoor {
 
@@ -18,16 +20,15 @@ struct MetafileFrame {
 struct MetafileOutline {
     std::size_t records = 0;     ///< position of the first record that draws
     std::size_t recordCount = 0; ///< the last one, which ends the list, included
-    int width = 0;               ///< natural size in pixels, at 96 to the inch
-    int height = 0;
-    MetafileFrame frame; ///< of wmf: what the natural size shows
+    PixelSize size;              ///< natural size
+    MetafileFrame frame;         ///< of wmf: what the natural size shows
 };
 
-/// The outline of a wmf with or without the placing header; nothing for a damaged file, such as one
-/// whose records do not come to their end within it.
-std::optional<MetafileOutline> OutlineWmf(std::string_view bytes);
+/// Units to the inch that make a unit a pixel.
+inline constexpr int MetafilePixelsPerInch = 96;
 
-/// The same for an emf.
-std::optional<MetafileOutline> OutlineEmf(std::string_view bytes);
+/// The natural size of a metafile from its extents, each at least one pixel; nothing when one is
+/// not above 0 or beyond a million pixels, or when the units are 0.
+std::optional<PixelSize> MetafileSize(std::int64_t width, std::int64_t height, int unitsPerInch);
 
 } // namespace tavmoor

@@ -19,6 +19,9 @@ constexpr std::array<std::string_view, 5> PixelChunks{"IHDR", "PLTE", "tRNS", "I
 } // namespace
 
 bool KeepPixelChunks(std::string& png) {
+    if (png.size() < SignatureBytes) {
+        return false;
+    }
     std::size_t kept = SignatureBytes;
     std::string_view name;
     for (std::size_t at = SignatureBytes; at < png.size() && name != LastChunk;) {

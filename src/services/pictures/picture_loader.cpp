@@ -2,12 +2,13 @@
 
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
+#include "core/formats/emf_header.h"
 #include "core/formats/icon_directory.h"
-#include "core/formats/metafile_outline.h"
 #include "core/formats/picture_format.h"
 #include "core/formats/png_chunks.h"
-#include "core/formats/raster_outline.h"
+#include "core/formats/wmf_header.h"
 #include "services/pictures/emf_player.h"
+#include "services/pictures/raster_outline.h"
 #include "services/pictures/wmf_player.h"
 
 #include <QBuffer>
@@ -32,10 +33,6 @@ struct PictureFile {
     int index = 0; ///< the one to take of several pictures
 };
 
-bool IsMetafile(PictureFormat format) {
-    return format == PictureFormat::Wmf || format == PictureFormat::Emf;
-}
-
 /// Chooses among the pictures of an icon. One that is a png takes the place of the file: then what
 /// holds for a png file holds for it as well.
 void TakeIconPicture(PictureFile& file, int side) {
@@ -53,7 +50,7 @@ void TakeIconPicture(PictureFile& file, int side) {
 
 /// Leaves what is decoded.
 void Reduce(PictureFile& file, int iconSide) {
-    if (file.format == PictureFormat::Icon || file.format == PictureFormat::Cursor) {
+    if (IsIcon(file.format)) {
         TakeIconPicture(file, iconSide);
     }
     if (file.format == PictureFormat::Png && !KeepPixelChunks(file.bytes)) {
@@ -154,8 +151,12 @@ PictureFault MetafileFault(const std::optional<MetafileOutline>& outline) {
     if (!outline) {
         return PictureFault::Damaged;
     }
-    return qint64{outline->width} * outline->height > MostMetafilePixels ? PictureFault::TooLarge
-                                                                         : PictureFault::None;
+    return outline->size.Pixels() > MostMetafilePixels ? PictureFault::TooLarge
+                                                       : PictureFault::None;
+}
+
+QSize QSizeOf(PixelSize size) {
+    return {static_cast<int>(size.width), static_cast<int>(size.height)};
 }
 
 PictureResult LoadMetafile(const PictureFile& file) {
@@ -163,7 +164,7 @@ PictureResult LoadMetafile(const PictureFile& file) {
     if (const auto fault = MetafileFault(outline); fault != PictureFault::None) {
         return {{}, fault};
     }
-    QImage image(outline->width, outline->height, QImage::Format_ARGB32_Premultiplied);
+    QImage image(QSizeOf(outline->size), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return {{}, PictureFault::TooLarge};
     }
@@ -203,9 +204,8 @@ std::optional<QSize> PictureSize(std::string_view documentPath) {
     }
     if (IsMetafile(file.format)) {
         const auto outline = OutlineMetafile(file);
-        return MetafileFault(outline) == PictureFault::None
-                   ? std::optional(QSize(outline->width, outline->height))
-                   : std::nullopt;
+        return MetafileFault(outline) == PictureFault::None ? std::optional(QSizeOf(outline->size))
+                                                            : std::nullopt;
     }
     const RasterPicture picture(file);
     return picture.Fault() == PictureFault::None ? std::optional(picture.Size()) : std::nullopt;

@@ -1,5 +1,6 @@
 #include "services/pictures/wmf_player.h"
 
+#include "core/formats/wmf_header.h"
 #include "services/pictures/device_bitmap.h"
 #include "services/pictures/wmf_state.h"
 
@@ -440,17 +441,16 @@ bool PlayWmf(std::string_view bytes, const MetafileOutline& outline, const Pixel
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     WmfPlayer player(painter, outline, target);
-    const ByteView view(bytes);
     QElapsedTimer clock;
     clock.start();
     std::size_t at = outline.records;
     for (std::size_t i = 0; i + 1 < outline.recordCount; ++i) {
-        const std::size_t size = std::size_t{view.U32(at)} * 2;
-        player.Play(ByteView(view.Bytes(at, size)));
+        const std::string_view record = WmfRecordAt(bytes, at);
+        player.Play(ByteView(record));
         if (clock.hasExpired(MostMilliseconds)) {
             return false;
         }
-        at += size;
+        at += record.size();
     }
     return true;
 }

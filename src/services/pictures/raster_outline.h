@@ -7,7 +7,7 @@
 
 namespace tavmoor {
 
-/// What the frame of a raster picture tells before anything of it is decoded.
+/// What the headers of a raster picture tell before anything of it is decoded.
 struct RasterOutline {
     /// The file holds all the data it announces, in no more passes over the picture than pictures
     /// have. Decoders fill up what is missing with grey.
