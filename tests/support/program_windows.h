@@ -11,7 +11,7 @@ protected:
     ProgramWindows();
     ~ProgramWindows() override;
 
-    SkinnedWindow& Main() { return windows.Open(WindowName::Form1); }
+    SkinnedWindow& Main() { return static_cast<SkinnedWindow&>(windows.Open(WindowName::Form1)); }
     /// A panel of the main window, shown in it.
     QWidget& ShowPanel(PanelName name);
 };

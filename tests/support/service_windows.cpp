@@ -18,7 +18,7 @@ ServiceWindows::~ServiceWindows() {
 }
 
 SkinnedWindow* ServiceWindows::Shown(WindowName name) const {
-    SkinnedWindow* window = windows.Find(name);
+    auto* window = static_cast<SkinnedWindow*>(windows.Find(name));
     return window != nullptr && window->isVisible() ? window : nullptr;
 }
 

@@ -1,7 +1,6 @@
 #include "services/colors/color_pick.h"
 
 #include "services/windows/program_session.h"
-#include "services/windows/skinned_window.h"
 #include "services/windows/window_placing.h"
 
 #include <QGuiApplication>
@@ -20,7 +19,7 @@ void CloseColorTools(WindowRegistry& windows) {
 }
 
 void ShowColorMenu(WindowRegistry& windows, QPoint place) {
-    SkinnedWindow& menu = windows.Load(WindowName::menu2);
+    ProgramWindow& menu = windows.Load(WindowName::menu2);
     menu.adjustSize();
     const QScreen* screen = QGuiApplication::screenAt(place);
     const QRect area = (screen != nullptr ? screen : menu.screen())->availableGeometry();

@@ -9,8 +9,8 @@ void ColorTool::Serve(const MenuAnswer& answer) {
     if (QWidget* asking = answer.Waiting()) {
         // What asked is half gone by then, and must not take a result any more.
         connect(asking, &QObject::destroyed, this, &ColorTool::CloseUnanswered);
-        if (auto* window = qobject_cast<SkinnedWindow*>(asking->window())) {
-            connect(window, &SkinnedWindow::Unloaded, this, &SkinnedWindow::Unload);
+        if (auto* window = qobject_cast<ProgramWindow*>(asking->window())) {
+            connect(window, &ProgramWindow::Unloaded, this, &SkinnedWindow::Unload);
         }
     }
 }

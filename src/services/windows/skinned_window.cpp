@@ -4,8 +4,8 @@
 #include "services/look/theme.h"
 #include "services/system/wait_loop.h"
 #include "services/values/twips.h"
+#include "services/windows/design_panel_place.h"
 #include "services/windows/program_session.h"
-#include "services/windows/window_placing.h"
 #include "services/windows/window_strips.h"
 
 #include <QCheckBox>
@@ -14,7 +14,6 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -47,7 +46,7 @@ bool TakesEnter(const QAbstractButton* button) {
 } // namespace
 
 SkinnedWindow::SkinnedWindow(ProgramContext context, const WindowLook& look)
-    : QWidget(nullptr, FlagsOf(look)), context_(context), look_(look) {
+    : ProgramWindow(nullptr, FlagsOf(look)), context_(context), look_(look) {
     setObjectName(QString::fromLatin1(look.objectName));
     setAttribute(Qt::WA_QuitOnClose, look.name == WindowName::Form1);
     const QString title = QString::fromUtf16(look.title);
@@ -57,8 +56,7 @@ SkinnedWindow::SkinnedWindow(ProgramContext context, const WindowLook& look)
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
     if (HasStrip(look)) {
-        strip_ = new TitleStrip(*this, title);
-        layout->addWidget(strip_);
+        layout->addWidget(new TitleStrip(*this, title));
     }
     body_ = new QWidget(this);
     layout->addWidget(body_, 1);
@@ -101,21 +99,16 @@ bool SkinnedWindow::Unload() {
     unloaded_ = true;
     OnUnload();
     hide();
-    if (bringsMainBack_ && Windows().Main() != nullptr) {
-        Windows().Main()->SetVisible(true);
-    }
+    BringMainBackWhenDue();
     Q_EMIT Unloaded();
     DeleteAfterWaits(*this);
     return true;
 }
 
-void SkinnedWindow::HideByUser() {
-    OnHideByUser();
-    hide();
+void SkinnedWindow::BringMainBackWhenDue() {
     if (bringsMainBack_ && Windows().Main() != nullptr) {
         Windows().Main()->SetVisible(true);
     }
-    Q_EMIT HiddenByUser();
 }
 
 void SkinnedWindow::RunChrome(int third) {
@@ -143,17 +136,10 @@ void SkinnedWindow::SetKeyButtons(QAbstractButton* enter, QAbstractButton* escap
     escapeButton_ = escape;
 }
 
-void SkinnedWindow::SetTitle(const QString& title) {
-    setWindowTitle(title);
-    if (strip_ != nullptr) {
-        strip_->SetTitle(title);
-    }
-}
-
 bool SkinnedWindow::event(QEvent* event) {
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate && !unloaded_) {
-        PlaceBesideDesignPanel();
+        KeepOutFromUnderDesignPanel(*this, look_.name, Windows());
         OnActivate();
     } else if (event->type() == QEvent::WindowDeactivate && look_.closesWhenLeft) {
         Unload();
@@ -180,7 +166,8 @@ void SkinnedWindow::closeEvent(QCloseEvent* event) {
     // Unloading hides and deletes; Qt has nothing left to do.
     event->ignore();
     if (hidesOnClose_) {
-        HideByUser();
+        hide();
+        BringMainBackWhenDue();
     } else {
         Unload();
     }
@@ -227,17 +214,6 @@ void SkinnedWindow::PlaceChrome() {
     chrome_->move(width() - chrome_->width() - PixelsOf(RightGap),
                   1 + (theme::TitleHeight - chrome_->height()) / 2);
     chrome_->raise();
-}
-
-void SkinnedWindow::PlaceBesideDesignPanel() {
-    const auto panel = Windows().DesignPanelGeometry();
-    if (!panel || look_.name == WindowName::Form17 || look_.name == WindowName::Form16) {
-        return;
-    }
-    if (const auto place =
-            PlaceBesidePanel(frameGeometry(), *panel, screen()->availableGeometry())) {
-        move(*place);
-    }
 }
 
 } // namespace tavmoor

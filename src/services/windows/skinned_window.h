@@ -2,9 +2,6 @@
 
 #include "services/windows/window_registry.h"
 
-#include <QString>
-#include <QWidget>
-
 #include <array>
 #include <cstdint>
 
@@ -14,7 +11,6 @@ namespace tavmoor {
 
 struct ProjectDocument;
 class ChromeStrip;
-class TitleStrip;
 
 enum class ChromeAction : std::uint8_t { None, Minimise, Close };
 
@@ -44,21 +40,18 @@ struct WindowLook {
 /// any number of times), Unload. Unloading asks MayUnload, calls OnUnload, brings the main window
 /// back when the window was opened in its place, and deletes the window once control is back in the
 /// event loop.
-class SkinnedWindow : public QWidget {
+class SkinnedWindow : public ProgramWindow {
     Q_OBJECT
 
 public:
     SkinnedWindow(ProgramContext context, const WindowLook& look);
     ~SkinnedWindow() override;
 
-    void Load();
-    void Present();
-    /// @return false when the window refused
-    bool Unload();
-    [[nodiscard]] bool IsUnloaded() const { return unloaded_; }
-
-    /// Whether the main window comes back when this one closes.
-    void SetBringsMainBack(bool brings) { bringsMainBack_ = brings; }
+    void Load() final;
+    void Present() final;
+    bool Unload() final;
+    [[nodiscard]] bool IsUnloaded() const final { return unloaded_; }
+    void SetBringsMainBack(bool brings) final { bringsMainBack_ = brings; }
 
     /// A window that is hidden by its close command and keeps its fields, instead of unloading.
     void SetHidesOnClose(bool hides) { hidesOnClose_ = hides; }
@@ -68,10 +61,6 @@ public:
     void RunChrome(int third);
     /// Lets the platform drag the window by the mouse button that is down.
     void Drag();
-
-Q_SIGNALS:
-    void Unloaded();
-    void HiddenByUser();
 
 protected:
     /// The area below the title strip, where the window's own layout goes.
@@ -88,13 +77,10 @@ protected:
     /// False keeps the window open.
     virtual bool MayUnload() { return true; }
     virtual void OnUnload() {}
-    /// The window is about to be hidden by its close command; see SetHidesOnClose.
-    virtual void OnHideByUser() {}
 
     /// Enter presses the first button from anywhere in the window that does not need Enter itself,
     /// Esc the second; either may be null.
     void SetKeyButtons(QAbstractButton* enter, QAbstractButton* escape);
-    void SetTitle(const QString& title);
 
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -104,13 +90,11 @@ protected:
 
 private:
     void KeepOnTop(bool kept);
-    void PlaceBesideDesignPanel();
-    void HideByUser();
+    void BringMainBackWhenDue();
     void PlaceChrome();
 
     ProgramContext context_;
     WindowLook look_;
-    TitleStrip* strip_ = nullptr;
     ChromeStrip* chrome_ = nullptr;
     QWidget* body_ = nullptr;
     QAbstractButton* enterButton_ = nullptr;

@@ -1,7 +1,5 @@
 #include "services/windows/window_registry.h"
 
-#include "services/windows/skinned_window.h"
-
 #include <QAbstractButton>
 
 namespace tavmoor {
@@ -14,17 +12,17 @@ bool WindowRegistry::Stands(WindowName name) const {
     return factories_.contains(name);
 }
 
-SkinnedWindow& WindowRegistry::Load(WindowName name) {
-    if (SkinnedWindow* window = Find(name)) {
+ProgramWindow& WindowRegistry::Load(WindowName name) {
+    if (ProgramWindow* window = Find(name)) {
         return *window;
     }
-    SkinnedWindow* window = factories_.at(name)();
+    ProgramWindow* window = factories_.at(name)();
     loaded_[name] = window;
     window->Load();
     return *window;
 }
 
-SkinnedWindow* WindowRegistry::Find(WindowName name) const {
+ProgramWindow* WindowRegistry::Find(WindowName name) const {
     const auto found = loaded_.find(name);
     if (found == loaded_.end() || !found->second || found->second->IsUnloaded()) {
         return nullptr;
@@ -32,14 +30,14 @@ SkinnedWindow* WindowRegistry::Find(WindowName name) const {
     return found->second;
 }
 
-SkinnedWindow& WindowRegistry::Open(WindowName name) {
-    SkinnedWindow& window = Load(name);
+ProgramWindow& WindowRegistry::Open(WindowName name) {
+    ProgramWindow& window = Load(name);
     window.Present();
     return window;
 }
 
-SkinnedWindow& WindowRegistry::OpenFromMain(WindowName name) {
-    SkinnedWindow& window = Load(name);
+ProgramWindow& WindowRegistry::OpenFromMain(WindowName name) {
+    ProgramWindow& window = Load(name);
     window.SetBringsMainBack(true);
     if (main_ != nullptr) {
         main_->SetVisible(false);
@@ -49,24 +47,18 @@ SkinnedWindow& WindowRegistry::OpenFromMain(WindowName name) {
 }
 
 void WindowRegistry::Unload(WindowName name) {
-    if (SkinnedWindow* window = Find(name)) {
+    if (ProgramWindow* window = Find(name)) {
         window->Unload();
     }
 }
 
 void WindowRegistry::UnloadAll() {
     for (const auto& [name, factory] : factories_) {
-        if (SkinnedWindow* window = name == WindowName::Form1 ? nullptr : Find(name)) {
+        if (ProgramWindow* window = name == WindowName::Form1 ? nullptr : Find(name)) {
             window->SetBringsMainBack(false);
             window->Unload();
         }
     }
-}
-
-std::optional<QRect> WindowRegistry::DesignPanelGeometry() const {
-    const SkinnedWindow* panel = Find(WindowName::Form17);
-    return panel != nullptr && panel->isVisible() ? std::optional(panel->frameGeometry())
-                                                  : std::nullopt;
 }
 
 bool EnableWhenStanding(QAbstractButton& button, const WindowRegistry& windows, WindowName name) {

@@ -27,11 +27,6 @@ TitleStrip::TitleStrip(SkinnedWindow& window, const QString& title)
     setAccessibleName(QStringLiteral("Title bar"));
 }
 
-void TitleStrip::SetTitle(const QString& title) {
-    title_ = title;
-    update();
-}
-
 void TitleStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::TitleBack);

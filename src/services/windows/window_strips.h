@@ -12,7 +12,6 @@ class TitleStrip final : public QWidget {
 
 public:
     TitleStrip(SkinnedWindow& window, const QString& title);
-    void SetTitle(const QString& title);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

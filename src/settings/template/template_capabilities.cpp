@@ -2,7 +2,7 @@
 
 #include "services/values/twips.h"
 #include "services/windows/program_session.h"
-#include "services/windows/skinned_window.h"
+#include "services/windows/window_registry.h"
 #include "templates/template_descriptor.h"
 
 #include <QGuiApplication>
@@ -26,7 +26,7 @@ QRect ScreenOf(const QRect& window) {
 }
 
 void OpenDesignPanel(WindowRegistry& windows) {
-    SkinnedWindow& panel = windows.Load(WindowName::Form17);
+    ProgramWindow& panel = windows.Load(WindowName::Form17);
     MainWindowCommands& main = *windows.Main();
     const QRect place = main.Geometry();
     const QRect screen = ScreenOf(place);

@@ -2,9 +2,9 @@
 #include "services/dialogs/message_box.h"
 #include "services/dialogs/qt_dialogs.h"
 #include "services/system/wait_loop.h"
+#include "services/windows/design_panel_place.h"
 #include "services/windows/program_session.h"
 #include "services/windows/skinned_window.h"
-#include "services/windows/window_placing.h"
 
 #include <gtest/gtest.h>
 
@@ -129,7 +129,7 @@ TEST_F(WindowGround, AWindowOutlivesTheHandlerThatLetsEventsRun) {
              QtDialogs().About({&window, {}, {}, {}});
          }}};
     for (const auto& [name, wait] : waits) {
-        const QPointer<SkinnedWindow> window(&windows.Open(WindowName::Form9));
+        const QPointer<ProgramWindow> window(&windows.Open(WindowName::Form9));
         bool outlivedTheWait = false;
         QTimer::singleShot(0, window, [&, &wait = wait] {
             QTimer::singleShot(0, window, [&] {
@@ -176,7 +176,21 @@ TEST_F(WindowGround, ButtonsOfWindowsThatDoNotStandSaySo) {
                                                "version yet."));
 }
 
-TEST(WindowPlacing, KeepsOutFromUnderTheDesignPanel) {
+TEST_F(WindowGround, AnActiveWindowLeavesTheDesignPanelFree) {
+    constexpr WindowLook PanelLook{.name = WindowName::Form17, .objectName = "Form17"};
+    windows.Register(WindowName::Form17, [&] {
+        return new PlainWindow({session, windows}, PanelLook);
+    });
+    auto& panel = windows.Open(WindowName::Form17);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+    const QRect place = panel.frameGeometry();
+    auto& window = windows.Open(WindowName::Form9);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_FALSE(window.frameGeometry().intersects(panel.frameGeometry()));
+    EXPECT_EQ(panel.frameGeometry(), place);
+}
+
+TEST(DesignPanelPlace, KeepsOutFromUnderTheDesignPanel) {
     const QRect screen(0, 0, 1280, 900);
     const QRect panel(900, 100, 300, 600);
     EXPECT_EQ(PlaceBesidePanel({0, 0, 400, 300}, panel, screen), std::nullopt);

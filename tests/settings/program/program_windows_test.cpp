@@ -189,17 +189,17 @@ TEST_F(SmallWindows, AboutGoesWhenItIsLeftAndBringsTheMainWindowBack) {
 }
 
 TEST_F(SmallWindows, TheSplashGivesWayToTheMainWindow) {
-    const std::pair<const char*, std::function<void(SkinnedWindow&)>> ends[] = {
+    const std::pair<const char*, std::function<void(QWidget&)>> ends[] = {
         {"its time is over",
-         [](SkinnedWindow& splash) {
+         [](QWidget& splash) {
              auto& timer = *splash.findChild<QTimer*>(QStringLiteral("Timer1"));
              EXPECT_EQ(timer.interval(), 3000);
              timer.start(1);
              QTest::qWait(50);
          }},
-        {"a click", [](SkinnedWindow& splash) { Click(splash); }},
-        {"a key", [](SkinnedWindow& splash) { PressKey(splash, Qt::Key_Escape); }},
-        {"closed by the system", [](SkinnedWindow& splash) { splash.close(); }},
+        {"a click", [](QWidget& splash) { Click(splash); }},
+        {"a key", [](QWidget& splash) { PressKey(splash, Qt::Key_Escape); }},
+        {"closed by the system", [](QWidget& splash) { splash.close(); }},
     };
     for (const auto& [name, end] : ends) {
         auto& splash = windows.Open(WindowName::Form5);
