@@ -1,6 +1,8 @@
 #pragma once
 
-#include "menu/menu_layout.h"
+#include "menu/layout_request.h"
+
+#include <vector>
 
 namespace tavmoor {
 
@@ -10,6 +12,12 @@ struct FlowRules {
     std::size_t count = 0; ///< so many
     int columns = 1;
     bool downFirst = false; ///< fill the columns one after the other, not the rows
+};
+
+/// The title of a group among the buttons of a list.
+struct GroupTitle {
+    MenuGroup group;
+    Box box;
 };
 
 /// Buttons laid out from 0, 0.

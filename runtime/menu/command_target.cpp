@@ -1,8 +1,8 @@
 #include "menu/command_target.h"
 
-#include "core/files/document_path.h"
+#include "core/text/blanks.h"
+#include "core/text/path_text.h"
 #include "core/text/text_case.h"
-#include "core/text/value_encoding.h"
 
 #include <algorithm>
 #include <array>

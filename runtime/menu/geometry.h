@@ -36,6 +36,13 @@ struct Box {
     bool operator==(const Box&) const = default;
 };
 
+/// A length given for 96 dpi in pixels of a screen.
+constexpr int ToPixels(int length, int dpi) {
+    constexpr int base = 96;
+    const long long scaled = static_cast<long long>(length) * dpi;
+    return static_cast<int>((scaled + base / 2) / base);
+}
+
 /// The largest extent with the ratio of `wanted` that lies within `most`; `wanted` itself when it
 /// fits already.
 inline Extent ShrinkInto(Extent wanted, Extent most) noexcept {

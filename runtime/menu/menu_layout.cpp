@@ -1,7 +1,5 @@
 #include "menu/menu_layout.h"
 
-#include "menu/button_flow.h"
-
 #include <algorithm>
 
 namespace tavmoor {
@@ -277,12 +275,6 @@ private:
 };
 
 } // namespace
-
-int ToPixels(int length, int dpi) {
-    constexpr int base = 96;
-    const long long scaled = static_cast<long long>(length) * dpi;
-    return static_cast<int>((scaled + base / 2) / base);
-}
 
 int MenuLayout::MostScroll() const {
     return std::max(listHeight - list.height, 0);

@@ -1,47 +1,12 @@
 #pragma once
 
-#include "menu/look.h"
+#include "menu/button_flow.h"
+#include "menu/layout_request.h"
 
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace tavmoor {
-
-/// Measures texts as they will be drawn; the window's one asks the system.
-class TextMeter {
-public:
-    virtual ~TextMeter() = default;
-
-    /// Pixels that a text takes when its lines are wrapped at `mostWidth`.
-    [[nodiscard]] virtual Extent Measure(const std::string& text, const MenuFont& font,
-                                         int mostWidth) const = 0;
-    /// Pixels from one line to the next.
-    [[nodiscard]] virtual int LineHeight(const MenuFont& font) const = 0;
-
-protected:
-    TextMeter() = default;
-    TextMeter(const TextMeter&) = default;
-    TextMeter& operator=(const TextMeter&) = default;
-};
-
-/// All that the places of the menu depend on.
-struct LayoutRequest {
-    const MenuModel& model;
-    const Look& look;
-    const MenuFonts& fonts;
-    const TextMeter& meter;
-    Extent client{}; ///< pixels
-    int dpi = 96;
-    Extent logoPicture{};           ///< natural size; empty for none
-    bool backgroundPicture = false; ///< there is one
-    bool panel = false;             ///< the description has a panel behind it
-};
-
-struct GroupTitle {
-    MenuGroup group;
-    Box box;
-};
 
 /// Where everything stands. Buttons and group titles of the list stand as if it were not scrolled.
 struct MenuLayout {
@@ -85,8 +50,5 @@ struct DescriptionBoxes {
 
 DescriptionBoxes PlaceDescription(const LayoutRequest& request, const MenuLayout& layout,
                                   const Description& description);
-
-/// A length of the look in pixels of a screen.
-int ToPixels(int length, int dpi);
 
 } // namespace tavmoor

@@ -1,8 +1,8 @@
 #include "menu/menu_model.h"
 
+#include "core/text/blanks.h"
 #include "core/text/number_text.h"
 #include "core/text/text_case.h"
-#include "core/text/value_encoding.h"
 #include "menu/stored_values.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "core/document/project_document.h"
 #include "menu/geometry.h"
+#include "menu/menu_font.h"
 
 #include <array>
 #include <cstdint>
@@ -19,19 +20,6 @@ enum class CommandKind : std::uint8_t { OpenFile, RunProgram, VisitPage, SendMai
 /// The groups in which a look may gather the commands, in their order.
 enum class MenuGroup : std::uint8_t { Main, Info, Additional, Program };
 inline constexpr std::size_t MenuGroups = 4;
-
-/// A font. As an author's choice, an empty face means that none was chosen, and the look's own
-/// counts whatever the size says: the configuration has a size even then.
-struct MenuFont {
-    std::string face;
-    int points = 0;
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-    bool strikeOut = false;
-
-    bool operator==(const MenuFont&) const = default;
-};
 
 struct MenuText {
     std::string text;

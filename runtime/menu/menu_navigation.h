@@ -51,7 +51,6 @@ public:
     [[nodiscard]] std::optional<std::size_t> Told() const { return byKey_ ? focused_ : hovered_; }
     /// True once after each time that the description's button became another one.
     bool TakeArrival();
-    [[nodiscard]] bool IsHeld() const { return pressed_.has_value(); }
     [[nodiscard]] ButtonState StateOf(std::size_t button) const;
 
 private:

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "menu/menu_layout.h"
 #include "menu/palette.h"
 #include "menu/screen_model.h"
+#include "menu/text_meter.h"
 
 namespace tavmoor {
 

@@ -1,9 +1,9 @@
 #include "menu/stored_values.h"
 
+#include "core/text/blanks.h"
 #include "core/text/code_page.h"
 #include "core/text/number_text.h"
 #include "core/text/text_case.h"
-#include "core/text/value_encoding.h"
 
 #include <algorithm>
 

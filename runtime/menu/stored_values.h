@@ -1,6 +1,6 @@
 #pragma once
 
-#include "menu/menu_model.h"
+#include "menu/menu_font.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "menu/menu_layout.h"
+#include "menu/look.h"
+#include "menu/text_meter.h"
 
 #include <windows.h>
 

@@ -7,6 +7,7 @@
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
 #include "core/text/character_checks.h"
+#include "core/text/path_text.h"
 #include "core/text/text_case.h"
 #include "disc/autorun_inf.h"
 #include "disc/marked_programs.h"
@@ -27,6 +28,10 @@ constexpr std::string_view ProgramExtension = ".exe";
 constexpr auto StatusWait = 300ms;
 constexpr auto PlacingWait = 100ms;
 
+// Back colours of the name field.
+constexpr ColorValue RefusedNameColor = 0x00FFFF;
+constexpr ColorValue AcceptedNameColor = 0xFFFFFF;
+
 /// The icon and the like are small comforts of the disc; no error there stops a build.
 void WriteAutorunInfIgnoringErrors(const ProjectDocument& document, const std::string& path) {
     try {
@@ -43,6 +48,22 @@ bool CanAskLength(const std::string& path) {
     } catch (const RuntimeError&) {
         return false;
     }
+}
+
+/// All files of the package in order, with the configuration as the first and the fonts last;
+/// empty paths and duplicates are left out.
+/// @param withFonts false gives the list that is checked before the fonts join it
+std::vector<std::string> PackageFileList(const ProjectDocument& document,
+                                         const std::string& buildFolder, bool withFonts) {
+    std::vector<std::string> list{WithBackslash(buildFolder) +
+                                  std::string(package_format::ConfigurationName)};
+    const int last = withFonts ? FontPackageOrder : FontPackageOrder - 1;
+    for (std::string& path : PackageFilesOf(document, 1, last)) {
+        if (path != list.front()) {
+            list.push_back(std::move(path));
+        }
+    }
+    return list;
 }
 
 class Build {
@@ -230,19 +251,6 @@ void FillScreenTimes(ProjectDocument& document) {
             screen->Vreme = UsualScreenSecondsText;
         }
     }
-}
-
-std::vector<std::string> PackageFileList(const ProjectDocument& document,
-                                         const std::string& buildFolder, bool withFonts) {
-    std::vector<std::string> list{WithBackslash(buildFolder) +
-                                  std::string(package_format::ConfigurationName)};
-    const int last = withFonts ? FontPackageOrder : FontPackageOrder - 1;
-    for (std::string& path : PackageFilesOf(document, 1, last)) {
-        if (path != list.front()) {
-            list.push_back(std::move(path));
-        }
-    }
-    return list;
 }
 
 } // namespace tavmoor

@@ -39,14 +39,4 @@ BuildOutcome BuildAutorun(ProjectDocument& document, const BuildRequest& request
 /// Gives the splash and the exit screen their 5 seconds where no time is set.
 void FillScreenTimes(ProjectDocument& document);
 
-/// All files of the package in order, with the configuration as the first and the fonts last;
-/// empty paths and duplicates are left out.
-/// @param withFonts false gives the list that is checked before the fonts join it
-std::vector<std::string> PackageFileList(const ProjectDocument& document,
-                                         const std::string& buildFolder, bool withFonts);
-
-/// Back colours of the name field.
-inline constexpr ColorValue RefusedNameColor = 0x00FFFF;
-inline constexpr ColorValue AcceptedNameColor = 0xFFFFFF;
-
 } // namespace tavmoor

@@ -3,6 +3,7 @@
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
 #include "core/text/maker.h"
+#include "core/text/path_text.h"
 #include "disc/version_block.h"
 
 namespace tavmoor {

@@ -4,6 +4,7 @@
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
+#include "core/text/path_text.h"
 #include "disc/autorun_inf.h"
 #include "disc/marked_programs.h"
 #include "package/package_format.h"

@@ -1,12 +1,11 @@
 #include "disc/project_check.h"
 
 #include "core/document/project_fields.h"
-#include "core/files/document_path.h"
 #include "core/files/file_store.h"
 #include "core/text/character_checks.h"
 #include "core/text/code_page.h"
+#include "core/text/path_text.h"
 #include "core/text/text_case.h"
-#include "core/text/value_encoding.h"
 #include "disc/build_driver.h"
 #include "package/name_scrambling.h"
 #include "package/package_format.h"

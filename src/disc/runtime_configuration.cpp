@@ -1,8 +1,8 @@
 #include "disc/runtime_configuration.h"
 
 #include "core/document/field_writer.h"
-#include "core/files/document_path.h"
 #include "core/files/file_store.h"
+#include "core/text/path_text.h"
 #include "package/package_format.h"
 
 namespace tavmoor {

@@ -32,8 +32,7 @@ struct PackageEntry {
 /// @param head the beginning of the package; longer than the head, or the whole package
 /// @param packageSize length of the whole package in bytes
 /// @throws PackageError when the head is damaged, unfinished, longer than 1 MB or has more than
-/// 4096
-///         files, or when the files' sizes do not add up to the package
+///         4096 files, or when the files' sizes do not add up to the package
 std::vector<PackageEntry> ReadPackageHead(std::string_view head, std::uint64_t packageSize);
 
 /// True for a name that may be written into a folder, on every system the same: not empty, no
@@ -67,8 +66,7 @@ public:
     /// once all of them are whole: a failure before leaves the folder as it was, and a link that
     /// lies at a file's place is replaced, not followed.
     /// @throws PackageError for an unsafe name, two entries of one name (without regard to case),
-    /// or
-    ///         a file that cannot be written
+    ///         or a file that cannot be written
     void ExtractTo(const std::filesystem::path& folder);
 
 private:

@@ -4,7 +4,7 @@
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
 #include "core/files/sequential_output.h"
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 #include "package/name_scrambling.h"
 #include "package/package_format.h"
 

@@ -3,6 +3,7 @@
 #include "core/document/project_reader.h"
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
+#include "core/text/path_text.h"
 #include "core/text/text_case.h"
 #include "templates/template_descriptor.h"
 

@@ -1,6 +1,5 @@
 #include "templates/template_catalogue.h"
 
-#include "core/files/document_path.h"
 #include "support/temporary_folder.h"
 #include "templates/template_descriptor.h"
 

@@ -40,12 +40,17 @@ enum class TextForm : std::uint8_t {
 enum class Place : std::uint8_t { Both, ProjectOnly, ConfigurationOnly, ConfigurationAtSectionEnd };
 
 /// What the reader does once it has read the field.
-enum class ReadStep : std::uint8_t { None, Template, Icon, Font, ButtonPicture };
+enum class ReadStep : std::uint8_t { None, Template, Font, ButtonPicture };
 
-/// Other special rules for reading a number.
-enum class NumberRule : std::uint8_t { Any, AboveZero, OneElseZero, ScreenOption };
+/// What becomes of a number that the reader reads; a text that says none leaves the field.
+enum class NumberRule : std::uint8_t {
+    Any,
+    AboveZero,    ///< zero and numbers below leave the field
+    OneElseZero,  ///< everything but "1" is 0
+    ScreenOption, ///< everything but "1", "2" and "3" is 0; "" leaves the field
+};
 
-/// Which files a field's line depends on a flag for.
+/// The writers' condition for a field's line: a flag, and what it has to be.
 struct FieldGuard {
     FieldAccess flag;
     bool wanted = true;

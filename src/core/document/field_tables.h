@@ -1,8 +1,6 @@
 #pragma once
 
-#include "core/document/project_fields.h"
-
-#include <span>
+#include "core/document/field_block.h"
 
 namespace tavmoor {
 

@@ -70,7 +70,7 @@ constexpr FieldSpec MainFields[] = {
         .New("0")
         .Flag(FlagForm::OneZero)
         .Stands(Place::ConfigurationAtSectionEnd),
-    Field("Ikona", Main<&T::Ikona>).New("").InPackage(4).Then(ReadStep::Icon),
+    Field("Ikona", Main<&T::Ikona>).New("").InPackage(4),
     Field("Font", Main<&T::Font>).New(""),
     Field("Velicina", Main<&T::Velicina>).New("").Size(),
     Field("Stil", Main<&T::Stil>).New(""),

@@ -1,6 +1,8 @@
 #include "core/document/field_text.h"
 
+#include "core/text/blanks.h"
 #include "core/text/number_text.h"
+#include "core/text/path_text.h"
 #include "core/text/value_encoding.h"
 
 #include <algorithm>

@@ -12,7 +12,7 @@ namespace tavmoor {
 
 // The one project in memory. Each section of the project file is a member named like the section,
 // each field a member named like its key, blanks removed. What a field is (key, form, encoding,
-// new-project value, place in the files) is declared in project_fields.cpp.
+// new-project value, place in the files) is declared in field_tables_*.cpp.
 //
 // Texts are bytes in the system's code page. Member initialisers give the value at program start,
 // which the fields that "new project" does not touch keep until a window or a file changes them.

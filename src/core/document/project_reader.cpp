@@ -1,9 +1,8 @@
 #include "core/document/project_reader.h"
 
 #include "core/document/field_text.h"
-#include "core/files/document_path.h"
 #include "core/files/file_store.h"
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -74,9 +73,6 @@ private:
             return;
         case ReadStep::Template:
             TakeTemplate();
-            return;
-        case ReadStep::Icon:
-            listener_.IconRead(Text(place));
             return;
         case ReadStep::Font:
             listener_.FontRead(Text(place));

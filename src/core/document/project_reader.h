@@ -17,8 +17,6 @@ public:
 
     /// A message box with one button.
     virtual void ShowMessage(std::string_view /*text*/, std::string_view /*title*/) {}
-    /// The icon's path was read; the main window loads its preview.
-    virtual void IconRead(std::string_view /*path*/) {}
     /// A font file of the list was read, to be registered with the session.
     virtual void FontRead(std::string_view /*path*/) {}
     virtual void LetEventsRun() {}

@@ -2,7 +2,7 @@
 
 #include "core/document/field_writer.h"
 #include "core/files/file_store.h"
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 
 namespace tavmoor {
 

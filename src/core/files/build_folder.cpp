@@ -3,6 +3,7 @@
 #include "core/files/build_folder_platform.h"
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
+#include "core/text/path_text.h"
 
 namespace tavmoor {
 

@@ -51,22 +51,4 @@ std::optional<std::string> FindDocumentPath(const std::filesystem::path& nativeP
     }
 }
 
-bool IsAbsoluteDocumentPath(std::string_view path) {
-    const bool drive = path.size() >= 2 && path[1] == ':';
-    return drive || (!path.empty() && path.front() == '\\');
-}
-
-std::string WithBackslash(std::string_view folder) {
-    std::string result(folder);
-    if (result.empty() || result.back() != '\\') {
-        result += '\\';
-    }
-    return result;
-}
-
-std::string_view FolderOf(std::string_view path) {
-    const std::size_t end = path.rfind('\\');
-    return end == std::string_view::npos ? std::string_view() : path.substr(0, end);
-}
-
 } // namespace tavmoor

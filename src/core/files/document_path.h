@@ -30,13 +30,4 @@ std::optional<std::string> FindDocumentPath(const std::filesystem::path& nativeP
 /// True when two document paths are equal but for case, as the target file system compares them.
 bool SamePath(std::string_view a, std::string_view b);
 
-/// True for a path that begins with a drive letter and a colon, or with a backslash.
-bool IsAbsoluteDocumentPath(std::string_view path);
-
-/// `folder` with a backslash at its end; a folder that has one stays as it is.
-std::string WithBackslash(std::string_view folder);
-
-/// The part of a path before its last backslash; "" for a path without one.
-std::string_view FolderOf(std::string_view path);
-
 } // namespace tavmoor

@@ -2,6 +2,7 @@
 
 #include "core/files/document_path.h"
 #include "core/files/system_folders.h"
+#include "core/text/path_text.h"
 
 namespace tavmoor {
 

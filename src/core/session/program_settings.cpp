@@ -4,6 +4,7 @@
 #include "core/files/file_store.h"
 #include "core/files/profile_file.h"
 #include "core/files/runtime_error.h"
+#include "core/text/path_text.h"
 
 #include <array>
 

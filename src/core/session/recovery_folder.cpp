@@ -9,7 +9,7 @@
 #include "core/files/file_store.h"
 #include "core/files/program_folder.h"
 #include "core/files/runtime_error.h"
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 
 #include <algorithm>
 #include <array>

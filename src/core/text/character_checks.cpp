@@ -1,12 +1,16 @@
 #include "core/text/character_checks.h"
 
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 
 namespace tavmoor {
 
-bool CheckCharacters(std::string_view text) {
-    return text.find_first_not_of(FileNameCharacters) == std::string_view::npos;
-}
+namespace {
+
+/// The characters that the name of a chosen file may have; the blank is the last one.
+constexpr std::string_view FileNameCharacters =
+    "1234567890qwertyuiopasdfghjklzxcvbnmQWERTYUIOPASDFGHJKLZXCVBNM:\\().-_!+@# ";
+
+} // namespace
 
 bool IsValidName(std::string_view name) {
     return name.find_first_not_of(AllowedNameCharacters) == std::string_view::npos;
@@ -14,7 +18,7 @@ bool IsValidName(std::string_view name) {
 
 std::optional<std::string> FileNameObjection(std::string_view path) {
     const std::string_view name = FileNameOf(path);
-    if (CheckCharacters(name)) {
+    if (name.find_first_not_of(FileNameCharacters) == std::string_view::npos) {
         return std::nullopt;
     }
     // The blank stands in another place here than in the set that is checked against.

@@ -10,13 +10,6 @@ namespace tavmoor {
 inline constexpr std::string_view AllowedNameCharacters =
     "1234567890qwertyuiopasdfghjklzxcvbnmQWERTYUIOPASDFGHJKLZXCVBNM_-";
 
-/// The characters that the name of a chosen file may have; the blank is the last one.
-inline constexpr std::string_view FileNameCharacters =
-    "1234567890qwertyuiopasdfghjklzxcvbnmQWERTYUIOPASDFGHJKLZXCVBNM:\\().-_!+@# ";
-
-/// True when every character of the text is in FileNameCharacters; so for "".
-bool CheckCharacters(std::string_view text);
-
 /// True when every character of the name is in AllowedNameCharacters; so for "".
 bool IsValidName(std::string_view name);
 

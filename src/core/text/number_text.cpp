@@ -1,7 +1,7 @@
 #include "core/text/number_text.h"
 
+#include "core/text/blanks.h"
 #include "core/text/text_case.h"
-#include "core/text/value_encoding.h"
 
 #include <array>
 #include <charconv>

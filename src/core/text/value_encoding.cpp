@@ -61,40 +61,11 @@ std::string RoundSize(std::string_view value) {
     return number ? FormatNumber(RoundHalfToEven(*number)) : std::string(value);
 }
 
-std::string_view FileNameOf(std::string_view path) {
-    const std::size_t end = path.rfind('\\');
-    return end == std::string_view::npos ? path : path.substr(end + 1);
-}
-
-std::string RelativeToCdFolder(std::string_view path, std::string_view cdFolder) {
-    return path.size() > cdFolder.size() ? std::string(path.substr(cdFolder.size()))
-                                         : std::string();
-}
-
 std::string_view MonthName(int month) {
     static constexpr std::array<std::string_view, 12> names{
         "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     return month >= 1 && month <= 12 ? names[static_cast<std::size_t>(month - 1)]
                                      : std::string_view();
-}
-
-std::string ExpandProgramFolder(std::string_view path, std::string_view programFolder) {
-    if (path.empty() || path.front() != '%') {
-        return std::string(path);
-    }
-    std::string expanded(programFolder);
-    if (path.back() != '\\') {
-        expanded += '\\';
-    }
-    return expanded.append(path.substr(1));
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 } // namespace tavmoor

@@ -3,7 +3,7 @@
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
 #include "core/files/system_folders.h"
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 #include "services/dialogs/custom_colors.h"
 #include "services/dialogs/message_box.h"
 #include "services/values/color_value.h"

@@ -1,6 +1,6 @@
 #include "services/fields/disc_target.h"
 
-#include "core/text/value_encoding.h"
+#include "core/text/path_text.h"
 #include "services/fields/field_pickers.h"
 
 namespace tavmoor {

@@ -1,7 +1,7 @@
 #include "services/fields/field_pickers.h"
 
-#include "core/files/document_path.h"
 #include "core/text/number_text.h"
+#include "core/text/path_text.h"
 #include "services/dialogs/common_dialog.h"
 #include "services/dialogs/file_name_check.h"
 #include "services/windows/program_session.h"

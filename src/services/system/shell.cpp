@@ -1,8 +1,8 @@
 #include "services/system/shell.h"
 
-#include "core/files/document_path.h"
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
+#include "core/text/path_text.h"
 #include "services/system/service_slot.h"
 #include "services/system/shell_platform.h"
 #include "services/values/qt_text.h"

@@ -1,7 +1,7 @@
 #include "services/windows/program_session.h"
 
 #include "core/files/build_folder.h"
-#include "core/files/document_path.h"
+#include "core/text/path_text.h"
 
 namespace tavmoor {
 

@@ -3,6 +3,7 @@
 #include "core/files/build_folder.h"
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
+#include "core/text/path_text.h"
 #include "disc/output_check.h"
 #include "services/controls/labels.h"
 #include "services/controls/layouts.h"

@@ -7,8 +7,7 @@ class QWidget;
 
 namespace tavmoor {
 
-/// What the program does while a project is read. The icon's preview needs nothing of its own: the
-/// panels show the document when it is complete.
+/// What the program does while a project is read.
 class ProjectListener final : public ProjectReaderListener {
 public:
     ProjectListener(ProgramContext context, QWidget& owner) : context_(context), owner_(owner) {}

@@ -1,6 +1,6 @@
 #include "settings/steps/sound_panel.h"
 
-#include "core/files/document_path.h"
+#include "core/text/path_text.h"
 #include "services/controls/focused_scroll_bar.h"
 #include "services/controls/labels.h"
 #include "services/controls/layouts.h"

@@ -21,7 +21,6 @@ protected:
     void ShowMessage(std::string_view text, std::string_view title) override {
         events_.push_back(std::string(title) + "/" + std::string(text));
     }
-    void IconRead(std::string_view path) override { icon_ = path; }
     void FontRead(std::string_view path) override { fonts_.emplace_back(path); }
     void LetEventsRun() override { events_.emplace_back("events"); }
     void ApplyTemplateCapabilities() override { events_.emplace_back("template"); }
@@ -35,7 +34,6 @@ protected:
     ProjectDocument& d = *document_;
     std::vector<std::string> events_;
     std::vector<std::string> fonts_;
-    std::string icon_;
 };
 
 } // namespace
@@ -160,7 +158,6 @@ TEST_F(ProjectReaderTest, OnlySixKeysKnowTheProgramsFolder) {
     const std::regex value("@");
     Read(others + std::regex_replace(knowing, value, "%a"));
     Expect(others + std::regex_replace(knowing, value, folder_.Document() + "\\a"));
-    EXPECT_EQ(icon_, "%a");
 }
 
 TEST_F(ProjectReaderTest, AButtonPictureThatIsMissingOrEmptyIsToldAndCleared) {

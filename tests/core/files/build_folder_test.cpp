@@ -1,6 +1,7 @@
 #include "core/files/build_folder.h"
 
 #include "core/files/runtime_error.h"
+#include "core/text/path_text.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

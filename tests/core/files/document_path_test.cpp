@@ -3,6 +3,7 @@
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
 #include "core/text/code_page.h"
+#include "core/text/path_text.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

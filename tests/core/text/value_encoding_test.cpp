@@ -1,6 +1,7 @@
 #include "core/text/value_encoding.h"
 
 #include "core/text/number_text.h"
+#include "core/text/path_text.h"
 
 #include <gtest/gtest.h>
 
