@@ -1,9 +1,8 @@
 #include "services/sound/mp3_play.h"
 
 #include "services/sound/click_sound.h"
-#include "services/sound/media_device.h"
 #include "services/sound/sound_output.h"
-#include "services/system/service_slot.h"
+#include "support/fake_media_device.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -13,41 +12,6 @@
 namespace tavmoor {
 
 namespace {
-
-/// Behaves as the device does, with a clock that stands still.
-class FakeDevice final : public MediaDevice {
-public:
-    QString Open(const std::filesystem::path& file) override {
-        if (isOpen) {
-            return QStringLiteral("in use");
-        }
-        isOpen = refusal.isEmpty();
-        opened = file;
-        position = 0;
-        return refusal;
-    }
-    void Play() override { isPlaying = isOpen; }
-    void Pause() override { isPlaying = false; }
-    void Stop() override { isPlaying = false; }
-    void Close() override { isOpen = isPlaying = false; }
-    void Seek(std::int64_t to) override {
-        isPlaying = false; // as devices do that have no way to seek while they play
-        position = to;
-    }
-    [[nodiscard]] bool IsPlaying() const override { return isPlaying; }
-    [[nodiscard]] std::int64_t Position() const override { return position; }
-    [[nodiscard]] std::int64_t Length() const override { return length; }
-
-    QString refusal;
-    std::filesystem::path opened;
-    bool isOpen = false;
-    bool isPlaying = false;
-    std::int64_t position = 0;
-    std::int64_t length = 0;
-
-private:
-    ScopedService<MediaDevice> slot_{*this};
-};
 
 /// A wav file with a tenth of a second of silence.
 std::string Wav() {
@@ -63,7 +27,7 @@ std::string Wav() {
 TEST(MP3Play, PlaysOneFileAtATimeAndTellsWhyNot) {
     const test::TemporaryFolder folder;
     const std::string song = folder.Write("My Song.mp3", "x");
-    FakeDevice device;
+    test::FakeMediaDevice device;
     {
         MP3Play player;
         EXPECT_EQ(player.mmPlay(), QStringLiteral("Error with input file"));
@@ -96,7 +60,7 @@ TEST(MP3Play, PlaysOneFileAtATimeAndTellsWhyNot) {
 }
 
 TEST(MP3Play, TellsTimesInSecondsAndGoesOnPlayingAfterASeek) {
-    FakeDevice device;
+    test::FakeMediaDevice device;
     MP3Play player;
     EXPECT_EQ(player.PositionInSec(), QStringLiteral("0:00"));
     const struct {

@@ -1,7 +1,6 @@
-#include "settings/commands/command_pages.h"
-
 #include "services/look/theme.h"
 #include "services/values/color_value.h"
+#include "settings/pages.h"
 #include "support/color_answers.h"
 #include "support/program_windows.h"
 
@@ -12,7 +11,7 @@ protected:
     CommandDescriptions() { theme::Apply(*qApp); }
 
     SkinnedWindow& Open() {
-        CommandsPage(ShowPanel(PanelName::Frame4)).descriptions.Click();
+        test::CommandsPage(ShowPanel(PanelName::Frame4)).descriptions.Click();
         return *Shown(WindowName::Form4);
     }
     /// The stored look: the colours of text and ground, the font and its size.
@@ -20,7 +19,7 @@ protected:
         return stored.Bojaslova + "|" + stored.Bojapozadinekomandi + "|" + stored.Font + "|" +
                stored.Velicina;
     }
-    static ColorValue TextColor(const CommandDescriptionsPage& page) {
+    static ColorValue TextColor(const test::CommandDescriptionsPage& page) {
         return ToColorValue(page.sample.Color(QPalette::WindowText));
     }
 
@@ -32,7 +31,7 @@ TEST_F(CommandDescriptions, StoresTextsAndLook) {
     stored.Komande[6].Opis = "Mail";
     stored.Velicina = "11.5";
     auto& window = Open();
-    const CommandDescriptionsPage page(window);
+    const test::CommandDescriptionsPage page(window);
     EXPECT_FALSE(windows.Main()->IsVisible());
     EXPECT_EQ(page.firstCommand.Text(), "Install");
     EXPECT_EQ(page.secondCommand.Text(), "");
@@ -58,7 +57,7 @@ TEST_F(CommandDescriptions, StoresTextsAndLook) {
 
 TEST_F(CommandDescriptions, OpensAgainWithTheDocumentThatIsOpenNow) {
     auto& window = Open();
-    const CommandDescriptionsPage page(window);
+    const test::CommandDescriptionsPage page(window);
     page.firstTitle.Type("old");
     window.close();
     session.document = NewProjectDocument();
@@ -75,7 +74,7 @@ TEST_F(CommandDescriptions, OpensAgainWithTheDocumentThatIsOpenNow) {
 TEST_F(CommandDescriptions, AFontKeepsTheSamplesBottom) {
     test::ScriptedDialogs dialogs;
     auto& window = Open();
-    const CommandDescriptionsPage page(window);
+    const test::CommandDescriptionsPage page(window);
     const QWidget& sample = page.sample;
     const QRect before = sample.geometry();
     dialogs.fonts = {

@@ -1,7 +1,6 @@
-#include "settings/commands/command_pages.h"
-
 #include "services/values/color_value.h"
 #include "services/values/twips.h"
+#include "settings/pages.h"
 #include "support/plain_window.h"
 #include "support/program_windows.h"
 
@@ -26,7 +25,7 @@ protected:
     std::string disc = folder.Document("disc");
     BaseSettings& base = session.document.OsnovnaPodesavanja;
     QWidget& panel = Start();
-    CommandsPage page{panel};
+    test::CommandsPage page{panel};
 };
 
 TEST_F(CommandsPanel, EachRowEditsItsOwnCommandAndClearsIt) {

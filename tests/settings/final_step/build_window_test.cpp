@@ -1,8 +1,6 @@
-#include "settings/final_step/build_page.h"
-
 #include "core/files/runtime_error.h"
 #include "settings/final_step/build_window.h"
-#include "settings/main/main_window_page.h"
+#include "settings/pages.h"
 #include "support/build_project.h"
 #include "support/program_windows.h"
 #include "support/recording_shell.h"
@@ -36,7 +34,7 @@ TEST_F(BuildWindow, ShowsFolderNameAndWishAndNeedsAFolder) {
     session.settings.testAfterBuild = true;
     {
         auto& form = Open();
-        const BuildPage page(form);
+        const test::BuildPage page(form);
         EXPECT_EQ(page.folder.Tooltip(), Document().CdFolder());
         EXPECT_EQ(page.name.Text(), "Holiday");
         EXPECT_TRUE(page.startsAfter.IsTicked());
@@ -45,7 +43,7 @@ TEST_F(BuildWindow, ShowsFolderNameAndWishAndNeedsAFolder) {
     Settle();
     EXPECT_NE(Shown(WindowName::Form1), nullptr);
     Document().OsnovnaPodesavanja.GlavniDirektorijum.clear();
-    const BuildPage page(Open());
+    const test::BuildPage page(Open());
     EXPECT_EQ(page.folder.As<QLabel>().text(),
               QStringLiteral("CD-ROM FILES FOLDER NOT SELECTED! GO BACK TO MAIN AUTORUN SETTINGS."))
         << "all of it is seen";
@@ -53,7 +51,7 @@ TEST_F(BuildWindow, ShowsFolderNameAndWishAndNeedsAFolder) {
 }
 
 TEST_F(BuildWindow, ACompressFolderThatCannotBeUsedIsToldAndNothingIsTouched) {
-    const BuildPage page(Open());
+    const test::BuildPage page(Open());
     project.folder.Write("disc/autorun.arn", "an earlier package");
     for (const std::string& unusable :
          {Document().CdFolder(), folder.Document("gone"), folder.Write("file", "in the way")}) {
@@ -69,7 +67,7 @@ TEST_F(BuildWindow, ACompressFolderThatCannotBeUsedIsToldAndNothingIsTouched) {
 
 TEST_F(BuildWindow, NamesAreRefusedUntilTheyAreGood) {
     auto& form = Open();
-    const BuildPage page(form);
+    const test::BuildPage page(form);
     page.name.Type("my app");
     page.build.Click();
     const std::string objection = boxes.One();
@@ -87,19 +85,19 @@ TEST_F(BuildWindow, NamesAreRefusedUntilTheyAreGood) {
 
 TEST_F(BuildWindow, AMissingFolderLeadsBackToItsField) {
     std::filesystem::remove(project.folder.Native("disc"));
-    BuildPage(Open()).build.Click();
+    test::BuildPage(Open()).build.Click();
     EXPECT_EQ(boxes.One(), "Error...|" + Document().CdFolder() +
                                " does not exist!\r\nYou have to select CD-ROM files folder on "
                                "your local disk.");
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Critical);
     EXPECT_EQ(windows.Find(WindowName::Form8), nullptr);
     ASSERT_NE(Shown(WindowName::Form1), nullptr);
-    EXPECT_TRUE(MainWindowPage(Main()).mainSettingsPanel.IsVisible());
+    EXPECT_TRUE(test::MainWindowPage(Main()).mainSettingsPanel.IsVisible());
 }
 
 TEST_F(BuildWindow, BuildsStaysOpenMeanwhileAndTellsThatTheStartFailed) {
     auto& form = Open();
-    const BuildPage page(form);
+    const test::BuildPage page(form);
     page.startsAfter.Tick();
     test::RecordingShell shell;
     shell.objection = "Wine is missing";
@@ -143,7 +141,7 @@ TEST_F(BuildWindow, ProgressIsToldInBytesAndPercent) {
 
 TEST_F(BuildWindow, AfterAFailureTheNextBuildCanBegin) {
     auto& form = Open();
-    const BuildPage page(form);
+    const test::BuildPage page(form);
     Document().OsnovnaPodesavanja.PozadinskaSlika = "Z:\\gone\\back.bmp";
     page.build.Click();
     EXPECT_TRUE(boxes.One().starts_with("Error in file|"));

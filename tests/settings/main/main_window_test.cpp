@@ -1,8 +1,5 @@
-#include "settings/main/main_window_page.h"
-
-#include "settings/commands/command_pages.h"
 #include "settings/main/menu_action.h"
-#include "settings/steps/step_pages.h"
+#include "settings/pages.h"
 #include "support/program_windows.h"
 
 namespace tavmoor {
@@ -23,7 +20,7 @@ protected:
 };
 
 TEST_F(MainWindow, StepsWithoutATemplateOfferTheTemplateWindowAndGoNoFurther) {
-    const MainWindowPage page(Main());
+    const test::MainWindowPage page(Main());
     test::ScriptedBoxes boxes({BoxAnswer::No});
     page.autorunInfo.Click();
     EXPECT_EQ(boxes.One(),
@@ -49,9 +46,9 @@ TEST_F(MainWindow, TheDueAutorunCheckWaitsForTheAnswerAboutRecovery) {
 
 TEST_F(MainWindow, TheTabKeyGoesFromTheMenusOverTheStepsAndThePanelToTheHelp) {
     auto& form = Main();
-    const MainWindowPage page(form);
-    const AutorunInfoPage texts(form);
-    const SoundPage sound(form);
+    const test::MainWindowPage page(form);
+    const test::AutorunInfoPage texts(form);
+    const test::SoundPage sound(form);
     EXPECT_EQ(form.focusWidget(), &page.mainSettings.As());
     // Panels are made late, and their last child need not be a tab stop.
     for (const auto& [panel, first] : {std::pair{PanelName::Frame3, texts.taskBarTitle},
@@ -66,7 +63,7 @@ TEST_F(MainWindow, TheTabKeyGoesFromTheMenusOverTheStepsAndThePanelToTheHelp) {
 }
 
 TEST_F(MainWindow, ItsKeysWorkFromAnyControl) {
-    const CommandsPage page(ShowPanel(PanelName::Frame4));
+    const test::CommandsPage page(ShowPanel(PanelName::Frame4));
     Settle(); // keys go to the active window
     const test::ScriptedBoxes boxes({BoxAnswer::No, BoxAnswer::No});
     for (const auto& control : {page.firstTitle, page.firstType}) {
@@ -77,9 +74,9 @@ TEST_F(MainWindow, ItsKeysWorkFromAnyControl) {
 }
 
 TEST_F(MainWindow, MenuEntriesAreServedByTheTimer) {
-    MainWindowPage(Main()).fileMenu.Click();
+    test::MainWindowPage(Main()).fileMenu.Click();
     ASSERT_NE(Shown(WindowName::menu1), nullptr);
-    const FileMenuPage menu(*Shown(WindowName::menu1));
+    const test::FileMenuPage menu(*Shown(WindowName::menu1));
     EXPECT_FALSE(menu.programEntries.IsVisible());
     menu.exit.Click();
     EXPECT_EQ(Shown(WindowName::menu1), nullptr);

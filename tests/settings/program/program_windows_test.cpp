@@ -1,7 +1,6 @@
-#include "settings/program/program_pages.h"
-
 #include "core/text/maker.h"
 #include "services/system/registry_store.h"
+#include "settings/pages.h"
 #include "support/program_windows.h"
 #include "support/recording_shell.h"
 
@@ -34,8 +33,12 @@ private:
 
 class SmallWindows : public test::ProgramWindows {
 protected:
-    ProgramSettingsPage Settings() { return ProgramSettingsPage(windows.Open(WindowName::Form3)); }
-    AutorunCheckPage Check() { return AutorunCheckPage(windows.Open(WindowName::Form13)); }
+    test::ProgramSettingsPage Settings() {
+        return test::ProgramSettingsPage(windows.Open(WindowName::Form3));
+    }
+    test::AutorunCheckPage Check() {
+        return test::AutorunCheckPage(windows.Open(WindowName::Form13));
+    }
     static void Send(QWidget& window, QEvent::Type type) {
         QEvent event(type);
         QApplication::sendEvent(&window, &event);
@@ -47,15 +50,15 @@ protected:
 };
 
 TEST_F(SmallWindows, SettingsAreStoredOnlyWhenConfirmed) {
-    const std::pair<test::Control ProgramSettingsPage::*, bool ProgramSettings::*> flags[] = {
-        {&ProgramSettingsPage::previews, &ProgramSettings::previewPictures},
-        {&ProgramSettingsPage::splash, &ProgramSettings::programSplash},
-        {&ProgramSettingsPage::testsAfter, &ProgramSettings::testAfterBuild},
-        {&ProgramSettingsPage::checksAutorun, &ProgramSettings::autoplayCheck}};
+    const std::pair<test::Control test::ProgramSettingsPage::*, bool ProgramSettings::*> flags[] = {
+        {&test::ProgramSettingsPage::previews, &ProgramSettings::previewPictures},
+        {&test::ProgramSettingsPage::splash, &ProgramSettings::programSplash},
+        {&test::ProgramSettingsPage::testsAfter, &ProgramSettings::testAfterBuild},
+        {&test::ProgramSettingsPage::checksAutorun, &ProgramSettings::autoplayCheck}};
     for (const auto& [control, flag] : flags) {
         const bool before = session.settings.*flag;
         for (const bool stored : {false, true}) {
-            const ProgramSettingsPage page = Settings();
+            const test::ProgramSettingsPage page = Settings();
             EXPECT_EQ((page.*control).IsTicked(), before);
             (page.*control).Tick(!before);
             (stored ? page.store : page.cancel).Click();
@@ -67,7 +70,7 @@ TEST_F(SmallWindows, SettingsAreStoredOnlyWhenConfirmed) {
 
 TEST_F(SmallWindows, TheCompressFolderIsTheChosenOneOrTheDefault) {
     const auto storedFolder = [this](auto act) {
-        const ProgramSettingsPage page = Settings();
+        const test::ProgramSettingsPage page = Settings();
         act(page);
         page.store.Click();
         return session.settings.buildFolder;
@@ -96,7 +99,7 @@ TEST_F(SmallWindows, TheCompressFolderIsTheChosenOneOrTheDefault) {
 
 #ifndef _WIN32
 TEST_F(SmallWindows, ACompressFolderThatCannotBeStoredKeepsTheSettingsOpen) {
-    const ProgramSettingsPage page = Settings();
+    const test::ProgramSettingsPage page = Settings();
     page.folder.Type("/a\\b");
     page.folder.Press(Qt::Key_Return);
     ASSERT_NE(Shown(WindowName::Form3), nullptr);
@@ -109,8 +112,8 @@ TEST_F(SmallWindows, ACompressFolderThatCannotBeStoredKeepsTheSettingsOpen) {
 
 TEST_F(SmallWindows, AnOpenCheckTakesOverTheTickOfTheSettings) {
     session.settings.autoplayCheck = false;
-    const AutorunCheckPage check = Check();
-    const ProgramSettingsPage page = Settings();
+    const test::AutorunCheckPage check = Check();
+    const test::ProgramSettingsPage page = Settings();
     page.checksAutorun.Tick();
     page.checkNow.Click();
     EXPECT_TRUE(check.always.IsTicked());
@@ -120,10 +123,10 @@ TEST_F(SmallWindows, AnOpenCheckTakesOverTheTickOfTheSettings) {
 }
 
 TEST_F(SmallWindows, ACheckThatFindsAllInOrderEndsTheChecks) {
-    const ProgramSettingsPage page = Settings();
+    const test::ProgramSettingsPage page = Settings();
     page.checksAutorun.Tick();
     page.checkNow.Click();
-    const AutorunCheckPage check(*Shown(WindowName::Form13));
+    const test::AutorunCheckPage check(*Shown(WindowName::Form13));
     EXPECT_TRUE(check.always.IsTicked());
     check.check.Click();
     EXPECT_EQ(Shown(WindowName::Form13), nullptr);
@@ -141,7 +144,7 @@ TEST_F(SmallWindows, ACheckThatMendsGoesOnBeingMade) {
 }
 
 TEST_F(SmallWindows, LeavingTheCheckKeepsItsTickAlone) {
-    const AutorunCheckPage check = Check();
+    const test::AutorunCheckPage check = Check();
     check.always.Tick(false);
     check.leave.Click();
     EXPECT_FALSE(session.settings.autoplayCheck);
@@ -149,7 +152,7 @@ TEST_F(SmallWindows, LeavingTheCheckKeepsItsTickAlone) {
 }
 
 TEST_F(SmallWindows, TickedButNotStoredSettingsSurviveALookElsewhere) {
-    const ProgramSettingsPage page = Settings();
+    const test::ProgramSettingsPage page = Settings();
     page.checksAutorun.Tick(false);
     Send(*Shown(WindowName::Form3), QEvent::WindowActivate);
     EXPECT_FALSE(page.checksAutorun.IsTicked());
@@ -158,7 +161,7 @@ TEST_F(SmallWindows, TickedButNotStoredSettingsSurviveALookElsewhere) {
 TEST_F(SmallWindows, AboutLeadsToTheMaker) {
     const std::string mail(MakerMailAddress);
     const std::string site(MakerWebPage);
-    const AboutPage page(windows.Open(WindowName::frmAbout));
+    const test::AboutPage page(windows.Open(WindowName::frmAbout));
     EXPECT_EQ(page.contact.Text(), "Contact\nE-mail address: " + mail + "\nWebsite:" + site);
     page.web.Click();
     page.mail.Click();
@@ -172,8 +175,9 @@ TEST_F(SmallWindows, AboutLeadsToTheMaker) {
 
 TEST_F(SmallWindows, AboutTellsFailuresWhenItIsGone) {
     shell.objection = "no browser";
-    for (const auto command : {&AboutPage::update, &AboutPage::web, &AboutPage::mail}) {
-        (AboutPage(windows.Open(WindowName::frmAbout)).*command).Click();
+    for (const auto command :
+         {&test::AboutPage::update, &test::AboutPage::web, &test::AboutPage::mail}) {
+        (test::AboutPage(windows.Open(WindowName::frmAbout)).*command).Click();
         EXPECT_EQ(Shown(WindowName::frmAbout), nullptr);
         EXPECT_EQ(boxes.One(), "|no browser");
     }

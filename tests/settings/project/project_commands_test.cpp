@@ -2,7 +2,7 @@
 #include "core/files/profile_file.h"
 #include "services/values/native_path_text.h"
 #include "settings/main/main_window.h"
-#include "settings/main/main_window_page.h"
+#include "settings/pages.h"
 #include "support/program_windows.h"
 
 #include <QTimer>
@@ -12,7 +12,7 @@ namespace tavmoor {
 class ProjectCommandsTest : public test::ProgramWindows {
 protected:
     Form1& Hub() { return static_cast<Form1&>(Main()); }
-    MainWindowPage Page() { return MainWindowPage(Main()); }
+    test::MainWindowPage Page() { return test::MainWindowPage(Main()); }
     void Serve(MenuAction action) { Hub().Serve(action); }
 
     /// A project file whose program title is `text`.

@@ -1,6 +1,5 @@
-#include "settings/screens/screen_page.h"
-
 #include "services/controls/color_box.h"
+#include "settings/pages.h"
 #include "support/color_answers.h"
 #include "support/program_windows.h"
 
@@ -18,7 +17,8 @@ protected:
         return page.time.Text();
     }
 
-    ScreenPage page{ShowPanel(GetParam() ? PanelName::Frame12 : PanelName::Frame9), GetParam()};
+    test::ScreenPage page{ShowPanel(GetParam() ? PanelName::Frame12 : PanelName::Frame9),
+                          GetParam()};
 };
 
 INSTANTIATE_TEST_SUITE_P(Both, ScreenPanels, testing::Bool(),

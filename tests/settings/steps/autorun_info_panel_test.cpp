@@ -1,5 +1,4 @@
-#include "settings/steps/step_pages.h"
-
+#include "settings/pages.h"
 #include "support/color_answers.h"
 #include "support/program_windows.h"
 
@@ -9,7 +8,7 @@ class AutorunInfoPanel : public test::ProgramWindows {
 protected:
     MainTexts& texts = session.document.OsnovniPodaci;
     QWidget& panel = ShowPanel(PanelName::Frame3);
-    AutorunInfoPage page{panel};
+    test::AutorunInfoPage page{panel};
     test::ScriptedDialogs dialogs;
 };
 

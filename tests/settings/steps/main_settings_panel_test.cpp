@@ -1,7 +1,6 @@
-#include "settings/steps/step_pages.h"
-
 #include "core/document/project_reset.h"
 #include "services/controls/color_box.h"
+#include "settings/pages.h"
 #include "support/color_answers.h"
 #include "support/picture_file.h"
 #include "support/plain_window.h"
@@ -21,7 +20,7 @@ protected:
 
     BaseSettings& base = session.document.OsnovnaPodesavanja;
     SkinnedWindow& form = Start();
-    MainSettingsPage page{ShowPanel(PanelName::Frame2)};
+    test::MainSettingsPage page{ShowPanel(PanelName::Frame2)};
     test::ScriptedDialogs dialogs;
 };
 

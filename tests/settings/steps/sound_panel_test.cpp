@@ -1,41 +1,14 @@
-#include "settings/steps/step_pages.h"
-
-#include "services/sound/media_device.h"
+#include "settings/pages.h"
+#include "support/fake_media_device.h"
 #include "support/program_windows.h"
 
 namespace tavmoor {
-
-namespace {
-
-/// Keeps what it is asked for.
-class LoggingDevice final : public MediaDevice {
-public:
-    QString Open(const std::filesystem::path& file) override {
-        log += "open " + file.filename().string() + ";";
-        return {};
-    }
-    void Play() override { log += "play;"; }
-    void Pause() override { log += "pause;"; }
-    void Stop() override { log += "stop;"; }
-    void Close() override { log += "close;"; }
-    void Seek(std::int64_t /*to*/) override {}
-    [[nodiscard]] bool IsPlaying() const override { return false; }
-    [[nodiscard]] std::int64_t Position() const override { return 0; }
-    [[nodiscard]] std::int64_t Length() const override { return 0; }
-
-    std::string log;
-
-private:
-    ScopedService<MediaDevice> slot_{*this};
-};
-
-} // namespace
 
 class SoundPanel : public test::ProgramWindows {
 protected:
     SoundSpec& Sound() { return Document().Zvuk; }
 
-    SoundPage page{ShowPanel(PanelName::Frame5)};
+    test::SoundPage page{ShowPanel(PanelName::Frame5)};
 };
 
 TEST_F(SoundPanel, EditsRepeatPauseStartAndCaption) {
@@ -113,7 +86,7 @@ TEST_F(SoundPanel, TheClickSoundSwitchesItsFlag) {
 }
 
 TEST_F(SoundPanel, HearingAgainBeginsAfresh) {
-    LoggingDevice device;
+    test::FakeMediaDevice device;
     const auto logged = [&device](const test::Control& button) {
         device.log.clear();
         button.Click();

@@ -1,6 +1,4 @@
-#include "settings/template/template_page.h"
-
-#include "settings/main/main_window_page.h"
+#include "settings/pages.h"
 #include "settings/template/template_capabilities.h"
 #include "settings/template/template_window.h"
 #include "support/picture_file.h"
@@ -29,20 +27,20 @@ protected:
         test::WritePicture(folder, in + "template.jpg", Qt::blue, {400, 300});
     }
 
-    TemplatePage Open() {
-        MainWindowPage(Main()).chooseTemplate.Click();
-        return TemplatePage(*Shown(WindowName::Form7));
+    test::TemplatePage Open() {
+        test::MainWindowPage(Main()).chooseTemplate.Click();
+        return test::TemplatePage(*Shown(WindowName::Form7));
     }
-    static int RowOf(const TemplatePage& page, const char* name) {
+    static int RowOf(const test::TemplatePage& page, const char* name) {
         const auto& list = page.names.As<QListWidget>();
         return list.row(list.findItems(QString::fromLatin1(name), Qt::MatchExactly).at(0));
     }
-    static void ClickRow(const TemplatePage& page, int row) {
+    static void ClickRow(const test::TemplatePage& page, int row) {
         const auto& list = page.names.As<QListWidget>();
         test::Control::ClickAt(*list.viewport(), list.visualItemRect(list.item(row)).center());
     }
     /// Presses the chrome in one of its thirds.
-    static void ClickChrome(const TemplatePage& page, int third) {
+    static void ClickChrome(const test::TemplatePage& page, int third) {
         page.chrome.ClickAt({page.chrome.As().width() * (2 * third + 1) / 6, 5});
     }
 
@@ -50,7 +48,7 @@ protected:
 };
 
 TEST_F(TemplateWindow, ATemplateIsChosenByAClickAndOk) {
-    const TemplatePage page = Open();
+    const test::TemplatePage page = Open();
     EXPECT_EQ(page.names.As<QListWidget>().count(), 3);
     EXPECT_TRUE(page.editor.IsTicked());
     EXPECT_FALSE(page.names.IsEnabled());
@@ -73,7 +71,7 @@ TEST_F(TemplateWindow, ATemplateIsChosenByAClickAndOk) {
 
 TEST_F(TemplateWindow, TheProjectsTemplateIsSelectedInAnyCaseAndEnterTakesIt) {
     base.Sablon = folder.Document("program/TEMPLATES/A/b/C/dEEP.tavt");
-    const TemplatePage page = Open();
+    const test::TemplatePage page = Open();
     auto& list = page.names.As<QListWidget>();
     EXPECT_EQ(list.currentRow(), RowOf(page, "Deep"));
     EXPECT_EQ(page.paths.As<QListWidget>().currentRow(), list.currentRow());
@@ -87,12 +85,12 @@ TEST_F(TemplateWindow, TheProjectsTemplateIsSelectedInAnyCaseAndEnterTakesIt) {
 TEST_F(TemplateWindow, CancelAndChromeChangeNothingAndBringTheMainWindowBack) {
     base.Sablon = "C:\\gone\\gone.tavt";
     {
-        const TemplatePage page = Open();
+        const test::TemplatePage page = Open();
         EXPECT_TRUE(page.editor.IsTicked()) << "the folder is gone";
         page.cancel.Click();
         EXPECT_EQ(Shown(WindowName::Form7), nullptr);
     }
-    const TemplatePage page = Open();
+    const test::TemplatePage page = Open();
     SkinnedWindow* form = Shown(WindowName::Form7);
     ClickChrome(page, 0);
     EXPECT_EQ(Shown(WindowName::Form7), form);
@@ -107,7 +105,7 @@ TEST_F(TemplateWindow, CancelAndChromeChangeNothingAndBringTheMainWindowBack) {
 }
 
 TEST_F(TemplateWindow, ThePictureGrowsAndShrinksToItsTwoSmallPlaces) {
-    const TemplatePage page = Open();
+    const test::TemplatePage page = Open();
     SkinnedWindow& form = *Shown(WindowName::Form7);
     const QRect small(432, 56, 297, 161);
     const auto afterClick = [&](bool besideIt = false) {
@@ -124,7 +122,7 @@ TEST_F(TemplateWindow, ThePictureGrowsAndShrinksToItsTwoSmallPlaces) {
 
 TEST_F(TemplateWindow, ATemplateWithoutPictureAndTextLeavesTheirPlacesEmpty) {
     folder.Write("program/Templates/bare/Bare.tavt", "[Template]\r\nName=Bare\r\n");
-    const TemplatePage page = Open();
+    const test::TemplatePage page = Open();
     page.simple.Click();
     ClickRow(page, RowOf(page, "Bare"));
     EXPECT_EQ(page.description.Text(), "");
@@ -145,7 +143,7 @@ TEST_F(TemplateWindow, TheChoiceOpensOrClosesTheWindowsOfTheVisualEditor) {
     EXPECT_EQ(panel->height(), Main().height());
     windows.Load(WindowName::Form16);
 
-    const TemplatePage page = Open();
+    const test::TemplatePage page = Open();
     page.simple.Click();
     ClickRow(page, 0);
     page.ok.Click();
