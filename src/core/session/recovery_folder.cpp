@@ -32,7 +32,7 @@ std::string FreePath(const std::string& start) {
     const std::string ending = std::string(BesideMark).append(words::ProjectEnding);
     std::string path = start + ending;
     for (int number = 2; FileExists(path); ++number) {
-        path = start + "-" + std::to_string(number) + ending;
+        path.assign(start).append("-").append(std::to_string(number)).append(ending);
     }
     return path;
 }
