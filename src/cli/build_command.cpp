@@ -1,10 +1,10 @@
 #include "commands.h"
 
 #include "console.h"
+#include "core/files/build_folder.h"
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
 #include "disc/build_driver.h"
-#include "disc/output_check.h"
 #include "open_project.h"
 #include "process.h"
 
@@ -14,40 +14,23 @@ namespace tavmoor::cli {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-/// The build folder of one run, gone with it.
-class WorkingFolder {
-public:
-    WorkingFolder() : path_(MakePrivateTemporaryFolder()) {}
-    WorkingFolder(const WorkingFolder&) = delete;
-    WorkingFolder& operator=(const WorkingFolder&) = delete;
-    ~WorkingFolder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    [[nodiscard]] std::string Path() const { return DocumentPath(path_); }
-
-private:
-    fs::path path_;
-};
-
-/// Prints the progress; messages that a window would show become the failure of the command.
+/// Prints the progress, and answers what the command line's flags say.
 class BuildProgress final : public BuildEvents {
 public:
+    explicit BuildProgress(const BuildArguments& arguments) : arguments_(arguments) {}
+
     void Status(std::string_view text) override { Line(OneLine(text)); }
-    void ShowMessage(std::string_view text, std::string_view /*title*/,
-                     BuildMessageKind /*kind*/) override {
-        failure_ = OneLine(text);
-    }
     void CheckingFile(std::string_view path) override { Line("  checking " + Utf8(path)); }
     void PackingFile(std::string_view path) override { Line("  packing " + Utf8(path)); }
     void PackageProgress(std::uint64_t done, std::uint64_t total) override {
-        const auto percent = total == 0 ? 100 : static_cast<int>(done * 100 / total);
-        if (percent >= printed_ + step_ || (percent == 100 && printed_ < 100)) {
-            printed_ = percent;
-            PrintPercentage(percent);
-        }
+        ShowProgress("package", done, total);
+    }
+    void PlacingProgress(std::uint64_t done, std::uint64_t total) override {
+        ShowProgress("placing", done, total);
+    }
+    bool Ask(BuildQuestion question, std::string_view /*text*/) override {
+        return question == BuildQuestion::ReplaceForeignProgram ? arguments_.replace
+                                                                : arguments_.deleteOldFirst;
     }
     /// The way out on an interrupt is that of every failure, so that no working file stays.
     void LetEventsRun() override {
@@ -55,11 +38,8 @@ public:
             throw CommandFailure("interrupted");
         }
     }
-    void PackageWritten(const BuiltPackage& package) override { package_ = package; }
     void StartAutorun(std::string_view path) override { started_ = path; }
 
-    [[nodiscard]] const std::string& Failure() const { return failure_; }
-    [[nodiscard]] const BuiltPackage& Package() const { return package_; }
     [[nodiscard]] const std::string& Started() const { return started_; }
 
 private:
@@ -69,18 +49,30 @@ private:
         PrintLine(text);
     }
 
+    void ShowProgress(const char* what, std::uint64_t done, std::uint64_t total) {
+        if (what != shown_) {
+            shown_ = what;
+            printed_ = -1;
+        }
+        const auto percent = total == 0 ? 100 : static_cast<int>(done * 100 / total);
+        if (percent >= printed_ + step_ || (percent == 100 && printed_ < 100)) {
+            printed_ = percent;
+            PrintPercentage(percent);
+        }
+    }
+
     void PrintPercentage(int percent) {
-        const std::string text = "  package " + std::to_string(percent) + " %";
+        const std::string text = "  " + std::string(shown_) + " " + std::to_string(percent) + " %";
         rewriting_ = terminal_ && percent < 100;
         PrintPart((terminal_ ? "\r" : "") + text + (rewriting_ ? "" : "\n"));
     }
 
     bool terminal_ = OutputIsTerminal();
     int step_ = terminal_ ? 1 : 10;
+    std::string_view shown_; ///< what the percentage is of
     int printed_ = -1;
     bool rewriting_ = false; ///< the percentage stands on a line that is not ended
-    BuiltPackage package_;
-    std::string failure_;
+    const BuildArguments& arguments_;
     std::string started_;
 };
 
@@ -90,14 +82,15 @@ void RequireNoWarning(const OpenProject& project) {
     }
 }
 
-void RequirePlaced(const ProjectDocument& document, const BuiltPackage& package) {
-    const auto faults = FaultsOfPlacedOutput(document, package);
-    for (const std::string& fault : faults) {
-        PrintError(OneLine(fault));
+/// What the command line says instead of asking.
+std::string FailureOf(const BuildOutcome& outcome) {
+    std::string text = OneLine(outcome.text);
+    if (outcome.declined) {
+        text += *outcome.declined == BuildQuestion::ReplaceForeignProgram
+                    ? " --replace replaces it."
+                    : " --delete-old-first deletes the old one first.";
     }
-    if (!faults.empty()) {
-        throw CommandFailure("the disc folder does not hold what was built");
-    }
+    return text;
 }
 
 } // namespace
@@ -118,24 +111,24 @@ int BuildCommand(const BuildArguments& arguments, const ProjectDocument*& openPr
         throw CommandFailure("the project has no template");
     }
     CatchInterrupts();
-    const WorkingFolder folder;
+    EnsureBuildFolder();
     BuildRequest request;
     request.name = arguments.name ? TextArgument(*arguments.name) : InitialAutorunName(document);
-    request.buildFolder = folder.Path();
+    request.buildFolder = BuildFolder();
     request.startAfterBuild = arguments.run;
-    BuildProgress progress;
+    BuildProgress progress(arguments);
     // Cleared only on the way out without an error: the boundary needs it after the unwinding.
     static std::optional<ProjectDocument> kept;
     try {
-        if (BuildAutorun(document, request, progress) != BuildOutcome::Built) {
-            throw CommandFailure(progress.Failure());
+        const BuildOutcome outcome = BuildAutorun(document, request, progress);
+        if (!outcome.IsWhole()) {
+            throw CommandFailure(FailureOf(outcome));
         }
     } catch (const RuntimeError&) {
         kept = document;
         openProject = &*kept;
         throw;
     }
-    RequirePlaced(document, progress.Package());
     if (arguments.run) {
         StartAutorunProgram(NativePath(progress.Started()));
     }

@@ -16,6 +16,8 @@ struct BuildArguments {
     std::optional<std::string> name;
     std::optional<std::string> programFolder;
     bool run = false;
+    bool replace = false;        ///< a program of somebody else that has the autorun's name
+    bool deleteOldFirst = false; ///< where there is too little room beside it
 };
 /// @param openProject is set to the project while it is open, for the boundary that saves it when a
 ///        run-time error ends the program

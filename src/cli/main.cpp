@@ -81,6 +81,10 @@ private:
         build->add_option("--cd-folder", build_.cdFolder, "The disc's folder, over the project's");
         build->add_option("--name", build_.name, "The autorun's name, without .exe");
         build->add_flag("--run", build_.run, "Start the autorun afterwards");
+        build->add_flag("--replace", build_.replace,
+                        "Replace a program of the autorun's name that was made by somebody else");
+        build->add_flag("--delete-old-first", build_.deleteOldFirst,
+                        "Delete the old autorun first where there is no room beside it");
         AddProgramFolder(build, build_.programFolder);
         build->callback(
             [this] { command_ = [this] { return BuildCommand(build_, openProject_); }; });

@@ -2,20 +2,28 @@
 
 #include "core/document/project_fields.h"
 #include "core/document/project_reader.h"
-#include "core/files/build_folder.h"
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
+#include "core/files/folder_lock.h"
 #include "core/files/runtime_error.h"
+#include "core/files/volume_traits.h"
+#include "core/files/work_folder.h"
 #include "core/text/character_checks.h"
+#include "core/text/code_page.h"
 #include "core/text/path_text.h"
 #include "core/text/text_case.h"
 #include "disc/autorun_inf.h"
-#include "disc/marked_programs.h"
+#include "disc/build_checks.h"
+#include "disc/disc_room.h"
+#include "disc/output_placing.h"
 #include "disc/runtime_configuration.h"
 #include "package/package_format.h"
 #include "package/package_writer.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <optional>
 
 namespace tavmoor {
 
@@ -26,20 +34,6 @@ using namespace std::chrono_literals;
 constexpr std::string_view LineBreak = "\r\n";
 constexpr std::string_view ProgramExtension = ".exe";
 constexpr auto StatusWait = 300ms;
-constexpr auto PlacingWait = 100ms;
-
-// Back colours of the name field.
-constexpr ColorValue RefusedNameColor = 0x00FFFF;
-constexpr ColorValue AcceptedNameColor = 0xFFFFFF;
-
-/// The icon and the like are small comforts of the disc; no error there stops a build.
-void WriteAutorunInfIgnoringErrors(const ProjectDocument& document, const std::string& path) {
-    try {
-        WriteAutorunInf(document, path);
-    } catch (const RuntimeError&) {
-        return;
-    }
-}
 
 bool CanAskLength(const std::string& path) {
     try {
@@ -70,163 +64,271 @@ class Build {
 public:
     Build(ProjectDocument& document, const BuildRequest& request, BuildEvents& events)
         : document_(document), request_(request), events_(events),
-          buildFolder_(WithBackslash(request.buildFolder)),
           cdFolder_(WithBackslash(document.CdFolder())) {}
 
     BuildOutcome Run() {
-        if (const BuildOutcome outcome = Validate(); outcome != BuildOutcome::Built) {
-            return outcome;
+        constexpr Step steps[] = {&Build::Validate,   &Build::HoldDisc,     &Build::CheckTemplate,
+                                  &Build::LookAtDisc, &Build::PrepareFiles, &Build::CheckPackage,
+                                  &Build::MakeRoom,   &Build::MakePackage,  &Build::StageOutput,
+                                  &Build::PlaceOutput};
+        for (const Step step : steps) {
+            if (auto ended = (this->*step)()) {
+                return std::move(*ended);
+            }
         }
-        TakeName();
-        if (!PrepareFiles()) {
-            return BuildOutcome::FileUnreadable;
-        }
-        MakePackage();
-        PlaceOutput();
-        Finish();
-        return BuildOutcome::Built;
+        return Finish();
     }
 
 private:
+    /// One part of the build; what it returns ends it.
+    using Step = std::optional<BuildOutcome> (Build::*)();
+
     void Status(std::string_view text) {
         events_.Status(text);
         events_.LetEventsRun();
     }
 
-    BuildOutcome Validate() {
+    static std::optional<BuildOutcome> RefusedFor(std::optional<std::string> objection) {
+        return objection ? std::optional(Refused(std::move(*objection))) : std::nullopt;
+    }
+
+    std::optional<BuildOutcome> Validate() {
         if (!FolderExists(document_.CdFolder())) {
-            events_.MarkFolder();
-            events_.ShowMessage(document_.CdFolder() + " does not exist!" + std::string(LineBreak) +
-                                    "You have to select CD-ROM files folder on your local disk.",
-                                "Error...", BuildMessageKind::Critical);
-            return BuildOutcome::FolderMissing;
+            return FolderMissing(document_.CdFolder());
         }
         if (!IsValidName(request_.name)) {
-            RefuseName();
-            return BuildOutcome::NameRefused;
+            return NameRefused(request_.name);
         }
         if (request_.name.empty()) {
-            events_.ColorName(RefusedNameColor);
-            events_.ShowMessage("Filename cannot be blank!", "", BuildMessageKind::Plain);
-            return BuildOutcome::NameEmpty;
+            return NameEmpty();
         }
-        return BuildOutcome::Built;
-    }
-
-    void RefuseName() {
-        events_.ColorName(RefusedNameColor);
-        events_.ShowMessage(
-            "It is highly recomended that filename contains of following characters\r\n"
-            "1234567890qwertyuiopasdfghjklzxcvbnmQWERTYUIOPASDFGHJKLZXCVBNM\r\n"
-            "Make sure filename does not contain spaces or characters such as |\\''?*<':>+[]/\r\n"
-            "\r\n"
-            "You want to be sure that your program will work on any computer running Windows "
-            "operating system.",
-            "", BuildMessageKind::Plain);
-        std::string name = request_.name;
-        std::replace(name.begin(), name.end(), ' ', '_');
-        events_.ReplaceName(name);
-    }
-
-    void TakeName() {
-        events_.ColorName(AcceptedNameColor);
         document_.OsnovniPodaci.exename = request_.name + std::string(ProgramExtension);
-        events_.EnableBuild(false);
         FillScreenTimes(document_);
+        UpdateTemplateRuntimePath(document_);
+        return std::nullopt;
     }
 
-    bool PrepareFiles() {
+    std::optional<BuildOutcome> HoldDisc() {
+        disc_ = NativePath(document_.CdFolder());
+        lock_ = std::make_unique<FolderLock>(disc_);
+        if (lock_->Result() != FolderLock::State::Taken) {
+            return std::nullopt;
+        }
+        return Busy(document_.CdFolder(), lock_->Holder());
+    }
+
+    std::optional<BuildOutcome> CheckTemplate() {
+        if (auto objection = ProgramNameObjection(ProgramName())) {
+            return RefusedFor(std::move(objection));
+        }
+        if (auto objection = WorkFolderObjection(document_, request_.buildFolder)) {
+            return RefusedFor(std::move(objection));
+        }
+        return RefusedFor(TemplateObjection(document_));
+    }
+
+    std::optional<BuildOutcome> LookAtDisc() {
+        try {
+            old_ = SurveyDisc(disc_, ProgramName());
+        } catch (const RuntimeError& error) {
+            return Refused(error.what());
+        }
+        if (auto objection = OldOutputObjection(document_, old_)) {
+            return RefusedFor(std::move(objection));
+        }
+        if (const OldOutput* icon = IconInItsPlace(document_, old_)) {
+            iconStays_ = true;
+            old_.erase(old_.begin() + (icon - old_.data()));
+        }
+        if (auto declined = AskForForeignProgram()) {
+            return declined;
+        }
+        DeleteLeftFreshFilesIgnoringErrors(disc_);
+        return CheckUse();
+    }
+
+    std::optional<BuildOutcome> AskForForeignProgram() {
+        const auto foreign = std::find_if(old_.begin(), old_.end(),
+                                          [](const OldOutput& output) { return output.isForeign; });
+        if (foreign == old_.end()) {
+            return std::nullopt;
+        }
+        return Ask(BuildQuestion::ReplaceForeignProgram,
+                   ShownPath(foreign->path.filename()) +
+                       " exists in CD-ROM files folder and was not made by this program.",
+                   "Replace it?");
+    }
+
+    std::optional<BuildOutcome> Ask(BuildQuestion question, const std::string& problem,
+                                    const std::string& offer) {
+        return events_.Ask(question, problem + " " + offer)
+                   ? std::nullopt
+                   : std::optional(Declined(question, problem));
+    }
+
+    std::optional<BuildOutcome> CheckUse() {
+        auto objection = InUseObjection(old_);
+        return objection ? std::optional(InUse(std::move(*objection))) : std::nullopt;
+    }
+
+    std::optional<BuildOutcome> PrepareFiles() {
         auto& list = document_.Working.listafajlova;
         list.clear();
         Status("Checking files...");
         events_.Wait(StatusWait);
-        RequireOwnFolder(buildFolder_);
-        ClearBuildFolder();
-        WriteRuntimeConfiguration(document_, buildFolder_);
-        list = PackageFileList(document_, buildFolder_, false);
+        try {
+            work_ = std::make_unique<WorkFolder>(request_.buildFolder);
+        } catch (const RuntimeError& error) {
+            return Refused(
+                "The temporary compress folder cannot be used. Choose another one in the "
+                "program settings." +
+                std::string(LineBreak) + error.what());
+        }
+        WriteRuntimeConfiguration(document_, work_->Path());
+        list = PackageFileList(document_, work_->Path(), false);
         for (const std::string& path : list) {
             events_.CheckingFile(path);
             if (!CanAskLength(path)) {
-                Abort(path);
-                return false;
+                return Abort(path);
             }
         }
-        Status("Processing package files...");
-        events_.Wait(StatusWait);
-        list = PackageFileList(document_, buildFolder_, true);
-        return true;
+        return std::nullopt;
     }
 
-    void Abort(const std::string& path) {
-        events_.ShowMessage("There was an error accessing file " + path + std::string(LineBreak) +
-                                "Check if the file exist!",
-                            "Error in file", BuildMessageKind::Plain);
+    BuildOutcome Abort(const std::string& path) {
         Status("Aborted" + std::string(LineBreak) + "There was an error while accessing file " +
                path + ". Check if file exist!");
-        events_.EnableBuild(true);
+        return FileUnreadable(path);
     }
 
-    void MakePackage() {
-        events_.PackageWritten(WritePackage(document_.Working.listafajlova, buildFolder_, events_));
-        UpdateTemplateRuntimePath(document_);
-        CopyFileIgnoringErrors(document_.Working.TemplateRuntimePath, Built(ProgramName()));
-        DeleteFileIgnoringErrors(Built(package_format::ConfigurationName));
+    std::optional<BuildOutcome> CheckPackage() {
+        Status("Processing package files...");
+        events_.Wait(StatusWait);
+        auto& list = document_.Working.listafajlova;
+        list = PackageFileList(document_, work_->Path(), true);
+        if (auto objection = PackedNameObjection(list)) {
+            return RefusedFor(std::move(objection));
+        }
+        wanted_.package = PackageLength(list);
+        wanted_.others = FileLengthOrZero(document_.Working.TemplateRuntimePath) +
+                         FileLengthOrZero(document_.OsnovniPodaci.Ikona) +
+                         AutorunInfText(document_).size();
+        const auto most = VolumeTraitsOf(disc_).largestFile;
+        if (most && wanted_.package > *most) {
+            return Refused("The package of " + MegabytesOf(wanted_.package) +
+                           " MB is too large for the file system of the CD-ROM files folder, "
+                           "which holds files of less than 4096 MB.");
+        }
+        return std::nullopt;
+    }
+
+    std::optional<BuildOutcome> MakeRoom() {
+        const auto shortage = ShortageOf(work_->NativePath(), disc_, wanted_);
+        if (!shortage) {
+            return std::nullopt;
+        }
+        std::uint64_t old = 0;
+        for (const OldOutput& output : old_) {
+            old += output.bytes;
+        }
+        if (!shortage->onDisc || old < shortage->bytes) {
+            return TooLittle(*shortage);
+        }
+        if (auto declined = Ask(BuildQuestion::DeleteOldFirst,
+                                "There is not enough room for the new autorun beside the old one "
+                                "(" +
+                                    MegabytesOf(shortage->bytes) + " MB more).",
+                                "Delete the old one first?")) {
+            return declined;
+        }
+        if (const auto left = OutputPlacing::Delete(old_); !left.empty()) {
+            return Refused("The old autorun cannot be deleted: " + Joined(left));
+        }
+        old_.clear();
+        return std::nullopt;
+    }
+
+    [[nodiscard]] BuildOutcome TooLittle(const Shortage& shortage) const {
+        return NoRoom(shortage.onDisc ? "CD-ROM files folder " + document_.CdFolder()
+                                      : "temporary compress folder " + request_.buildFolder,
+                      shortage.bytes);
+    }
+
+    /// A disk may fill up, or have limits of its own, after it said that there is room.
+    [[nodiscard]] BuildOutcome TooLittleAfterAll(bool onDisc) const {
+        const auto shortage = ShortageOf(work_->NativePath(), disc_, wanted_);
+        return TooLittle(shortage && shortage->onDisc == onDisc ? *shortage : Shortage{0, onDisc});
+    }
+
+    std::optional<BuildOutcome> MakePackage() {
+        try {
+            package_ = WritePackage(document_.Working.listafajlova, work_->Path(), events_);
+        } catch (const RuntimeError& error) {
+            if (error.Number() != ErrorNumber::DiskFull) {
+                throw;
+            }
+            return TooLittleAfterAll(false);
+        }
+        return std::nullopt;
+    }
+
+    std::optional<BuildOutcome> StageOutput() {
+        try {
+            output_.emplace(disc_, events_);
+            output_->StageCopy(ProgramName(), document_.Working.TemplateRuntimePath);
+            output_->StagePackage(std::string(package_format::PackageName),
+                                  work_->NativePath() / "autorun.arn", package_);
+            if (!document_.OsnovniPodaci.Ikona.empty() && !iconStays_) {
+                output_->StageCopy(std::string(IconName), document_.OsnovniPodaci.Ikona);
+            }
+            output_->StageText(std::string(InfName), AutorunInfText(document_));
+        } catch (const RuntimeError& error) {
+            return error.Number() == ErrorNumber::DiskFull
+                       ? TooLittleAfterAll(true)
+                       : Refused("The autorun could not be written: " + std::string(error.what()));
+        }
+        return CheckUse();
+    }
+
+    std::optional<BuildOutcome> PlaceOutput() {
+        try {
+            output_->Place();
+        } catch (const RuntimeError& error) {
+            return NotPlaced(error.what(), output_->Placed());
+        }
         Status("The autorun program has been created!");
+        return std::nullopt;
     }
 
-    /// Nothing of the build folder is needed afterwards, so that files are moved where they can be.
-    void PlaceOutput() {
-        DeleteMarkedPrograms(cdFolder_);
-        DeleteFileIgnoringErrors(Placed(package_format::PackageName));
-        if (!SamePath(document_.OsnovniPodaci.Ikona, Placed(IconName))) {
-            DeleteFileIgnoringErrors(Placed(IconName)); // else it is the author's only copy
-        }
-        DeleteFileIgnoringErrors(Placed("Autorun.inf"));
-        events_.Wait(PlacingWait);
-        MoveFileIgnoringErrors(Built(ProgramName()), Placed(ProgramName()));
-        events_.Wait(PlacingWait);
-        MoveFileIgnoringErrors(Built(package_format::PackageName),
-                               Placed(package_format::PackageName));
-        events_.Wait(PlacingWait);
-        CopyFileIgnoringErrors(document_.OsnovniPodaci.Ikona, Placed(IconName));
-        events_.Wait(PlacingWait);
-        WriteAutorunInfIgnoringErrors(document_, Placed("Autorun.inf"));
-        events_.LetEventsRun();
-        events_.Wait(PlacingWait);
-        if (!FileExists(Placed(ProgramName()))) {
-            CopyFileIgnoringErrors(document_.Working.TemplateRuntimePath, Placed(ProgramName()));
-        }
-    }
-
-    void Finish() {
-        if (request_.startAfterBuild) {
+    BuildOutcome Finish() {
+        const std::vector<std::string> left = OutputPlacing::Delete(old_);
+        BuildOutcome outcome;
+        if (!left.empty()) {
+            outcome = OlderStays(left);
+        } else if (request_.startAfterBuild) {
             Status("Starting autorun...");
-            events_.StartAutorun(Placed(ProgramName()));
+            events_.StartAutorun(cdFolder_ + ProgramName());
             Status("Completed...");
         }
-        ClearBuildFolder();
-        events_.EnableBuild(true);
-    }
-
-    void ClearBuildFolder() {
-        DeleteFileIgnoringErrors(Built(package_format::PackageName));
-        DeleteFileIgnoringErrors(Built(package_format::ConfigurationName));
-        DeleteMarkedPrograms(buildFolder_);
+        outcome.placed = output_->Placed();
+        outcome.package = package_;
+        return outcome;
     }
 
     [[nodiscard]] const std::string& ProgramName() const { return document_.OsnovniPodaci.exename; }
-    [[nodiscard]] std::string Built(std::string_view name) const {
-        return buildFolder_ + std::string(name);
-    }
-    [[nodiscard]] std::string Placed(std::string_view name) const {
-        return cdFolder_ + std::string(name);
-    }
 
     ProjectDocument& document_;
     const BuildRequest& request_;
     BuildEvents& events_;
-    std::string buildFolder_;
     std::string cdFolder_;
+    std::filesystem::path disc_;
+    std::unique_ptr<FolderLock> lock_; ///< on the disc's folder
+    std::vector<OldOutput> old_;       ///< what is replaced or deleted
+    bool iconStays_ = false;
+    std::unique_ptr<WorkFolder> work_;
+    RoomWanted wanted_;
+    BuiltPackage package_;
+    std::optional<OutputPlacing> output_;
 };
 
 } // namespace

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "core/document/project_document.h"
 #include "package/package_events.h"
-#include "package/package_writer.h"
 
 #include <chrono>
 #include <cstdint>
@@ -10,7 +8,11 @@
 
 namespace tavmoor {
 
-enum class BuildMessageKind : std::uint8_t { Plain, Critical };
+/// What a build may have to ask; each is answered with yes or no.
+enum class BuildQuestion : std::uint8_t {
+    ReplaceForeignProgram, ///< a program of somebody else has the autorun's name
+    DeleteOldFirst,        ///< there is room for the new autorun only when the old one goes first
+};
 
 /// What a build tells while it runs, and what it needs from its surroundings: the window of the
 /// final step shows and does all of it, a command line some. Texts are in the system's code page.
@@ -18,22 +20,18 @@ class BuildEvents : public PackageEvents {
 public:
     /// The text of the status line; may have several lines.
     virtual void Status(std::string_view /*text*/) {}
-    /// A message box with one button; without a title where that is "".
-    virtual void ShowMessage(std::string_view /*text*/, std::string_view /*title*/,
-                             BuildMessageKind /*kind*/) {}
-
-    /// The name field takes a back colour, or another text.
-    virtual void ColorName(ColorValue /*color*/) {}
-    virtual void ReplaceName(std::string_view /*name*/) {}
-    /// The target folder is marked as missing.
-    virtual void MarkFolder() {}
-    virtual void EnableBuild(bool /*enabled*/) {}
 
     /// A file of the list is about to be checked.
     virtual void CheckingFile(std::string_view /*path*/) {}
 
-    virtual void PackageWritten(const BuiltPackage& /*package*/) {}
+    /// Bytes of the finished package that were copied to the disc's folder, where it lies on
+    /// another file system than the working files. LetEventsRun follows each call.
+    virtual void PlacingProgress(std::uint64_t /*done*/, std::uint64_t /*total*/) {}
 
+    /// @return true for yes; who does not answer says no
+    virtual bool Ask(BuildQuestion /*question*/, std::string_view /*text*/) { return false; }
+
+    /// Leaves a status on the screen for a moment.
     virtual void Wait(std::chrono::milliseconds /*time*/) {}
 
     /// Starts the finished autorun with normal focus.

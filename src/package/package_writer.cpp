@@ -32,6 +32,23 @@ std::unique_ptr<Slots> CopyToSlots(const std::vector<std::string>& list) {
     return slots;
 }
 
+/// The data begins two bytes early, over the last line end of the head.
+constexpr std::size_t Overlap = 2;
+
+/// The whole head; its length hangs on nothing but the names and sizes.
+std::string HeadOf(const Slots& slots, const std::vector<std::uint64_t>& sizes) {
+    std::string head;
+    const auto line = [&head](std::string_view text) { head.append(text).append(format::LineEnd); };
+    line(format::Title);
+    line(format::HeadStart);
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        line(ScrambleText(FileNameOf(slots[i])));
+        line(ScrambleText(std::to_string(sizes[i])));
+    }
+    line(format::HeadEnd);
+    return head;
+}
+
 class Writer {
 public:
     Writer(const Slots& slots, std::string target, PackageEvents& events)
@@ -40,7 +57,6 @@ public:
     BuiltPackage Write() {
         std::string head = Head();
         Require(output_.Open(NativePath(target_), head.size() + total_));
-        // The data begins two bytes early, over the last line end of the head.
         Append(std::string_view(head).substr(0, head.size() - Overlap));
         for (std::size_t i = 0; i < sizes_.size(); ++i) {
             AppendFile(slots_[i], sizes_[i]);
@@ -55,8 +71,6 @@ public:
     }
 
 private:
-    static constexpr std::size_t Overlap = 2;
-
     void Require(const std::error_code& error) {
         if (error) {
             throw FileError(error, target_);
@@ -66,24 +80,14 @@ private:
     void Append(std::string_view bytes) { Require(output_.Append(bytes)); }
 
     std::string Head() {
-        std::string head;
-        const auto line = [&head](std::string_view text) {
-            head.append(text).append(format::LineEnd);
-        };
-        line(format::Title);
-        line(format::HeadStart);
         for (const std::string& path : slots_) {
             if (path.empty()) {
                 break;
             }
-            const std::uint64_t size = FileLength(path);
-            line(ScrambleText(FileNameOf(path)));
-            line(ScrambleText(std::to_string(size)));
-            sizes_.push_back(size);
-            total_ += size;
+            sizes_.push_back(FileLength(path));
+            total_ += sizes_.back();
         }
-        line(format::HeadEnd);
-        return head;
+        return HeadOf(slots_, sizes_);
     }
 
     void AppendFile(const std::string& path, std::uint64_t size) {
@@ -123,6 +127,17 @@ private:
 };
 
 } // namespace
+
+std::uint64_t PackageLength(const std::vector<std::string>& listafajlova) {
+    const auto slots = CopyToSlots(listafajlova);
+    std::vector<std::uint64_t> sizes;
+    std::uint64_t data = 0;
+    for (const std::string& path : listafajlova) {
+        sizes.push_back(FileLength(path));
+        data += sizes.back();
+    }
+    return HeadOf(*slots, sizes).size() - std::min<std::uint64_t>(data, Overlap) + data;
+}
 
 BuiltPackage WritePackage(const std::vector<std::string>& listafajlova,
                           const std::string& buildFolder, PackageEvents& events) {

@@ -15,6 +15,10 @@ struct BuiltPackage {
     std::uint64_t length = 0; ///< bytes
 };
 
+/// The length that the package of these files will have, in bytes; their lengths are asked for.
+/// @throws RuntimeError when a file cannot be asked
+std::uint64_t PackageLength(const std::vector<std::string>& listafajlova);
+
 /// Writes the package "autorun.arn" into the build folder, over an older one: scrambled names and
 /// sizes, then the bytes of all files, in list order. Sizes have no limit but the disk's; memory
 /// use does not grow with them. Events run after each block.

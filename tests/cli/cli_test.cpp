@@ -32,7 +32,7 @@ std::string Quoted(const std::string& text) {
 }
 
 /// Runs the program with a program folder that holds the real content, with small programs in the
-/// templates. Temporary files go to a folder that has to be empty afterwards.
+/// templates. No working file stays in the temporary folder.
 class CliTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -44,7 +44,11 @@ protected:
             std::ofstream(entry.path() / "template.tavexe", std::ios::binary) << runtime_;
         }
     }
-    void TearDown() override { EXPECT_EQ(Names("tmp"), ""); }
+    void TearDown() override {
+        std::error_code error;
+        fs::remove(folder_.Native("tmp/TAVMOORBuild"), error); // the build folder stays, empty
+        EXPECT_EQ(Names("tmp"), "");
+    }
 
     Result Run(const Arguments& arguments, const std::string& out = "console/out",
                const std::string& locale = "en_US") const {
@@ -162,10 +166,14 @@ TEST_F(CliTest, ABuildThatIsNotWholeFails) {
     folder_.Write("disc/Autorun.inf/file", "a folder stands in the way");
     const Result result = Build(Album);
     EXPECT_EQ(result.exit, 1);
-    EXPECT_TRUE(Has(result.error, "Autorun.inf was not placed.")) << result.error;
+    EXPECT_TRUE(Has(result.error, "Autorun.inf in the CD-ROM files folder is a folder"));
     EXPECT_FALSE(Has(result.out, "Built in"));
+    fs::remove_all(folder_.Native("disc/Autorun.inf"));
+    folder_.Write("disc/photos.exe", "somebody else's");
+    ExpectFailure(Build(Album), "was not made by this program. --replace replaces it.");
+    EXPECT_EQ(Build(Album, {"--replace"}).exit, 0);
     fs::remove(folder_.Native("program/Templates/Marquee/template.tavexe"));
-    EXPECT_TRUE(Has(Build(Album).error, "\\Marquee\\template.tavexe is missing."));
+    ExpectFailure(Build(Album), "\\Marquee\\template.tavexe is missing");
 }
 
 TEST_F(CliTest, ABuildThatNobodyReadsLeavesNoWorkingFiles) {

@@ -110,7 +110,7 @@ struct BuildPage : Page {
     using Page::Page;
     Control folder = At("Label2"), name = At("Text1"), startsAfter = At("Check1");
     Control build = At("Command1"), progress = At("Progress"), status = At("Label1");
-    Control note = At("Note");
+    Control note = At("Note"), openFolder = At("OpenFolder");
 };
 
 /// The window of the program settings.

@@ -5,23 +5,20 @@
 
 namespace tavmoor::test {
 
-/// Writes down all that a build tells.
+/// Writes down all that a build tells, and answers its questions.
 class RecordingBuildEvents final : public RecordingPackageEvents<BuildEvents> {
 public:
-    BuiltPackage package;
+    bool saysYes = false;
 
     void Status(std::string_view text) override { Add("status " + std::string(text)); }
-    void ShowMessage(std::string_view text, std::string_view title,
-                     BuildMessageKind kind) override {
-        const char* mark = kind == BuildMessageKind::Critical ? "critical [" : "message [";
-        Add(mark + std::string(title) + "] " + std::string(text));
-    }
-    void ColorName(ColorValue color) override { Add("colour " + std::to_string(color)); }
-    void ReplaceName(std::string_view name) override { Add("name " + std::string(name)); }
-    void MarkFolder() override { Add("mark folder"); }
-    void EnableBuild(bool enabled) override { Add(enabled ? "enable" : "disable"); }
     void CheckingFile(std::string_view path) override { Add("check " + std::string(path)); }
-    void PackageWritten(const BuiltPackage& written) override { package = written; }
+    void PlacingProgress(std::uint64_t done, std::uint64_t total) override {
+        Add("placed " + std::to_string(done) + "/" + std::to_string(total));
+    }
+    bool Ask(BuildQuestion /*question*/, std::string_view text) override {
+        Add("ask " + std::string(text));
+        return saysYes;
+    }
     void Wait(std::chrono::milliseconds time) override {
         Add("wait " + std::to_string(time.count()));
     }

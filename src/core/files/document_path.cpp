@@ -51,4 +51,18 @@ std::optional<std::string> FindDocumentPath(const std::filesystem::path& nativeP
     }
 }
 
+std::string ShownPath(const std::filesystem::path& nativePath) {
+    if (auto path = FindDocumentPath(nativePath)) {
+        return *path;
+    }
+    try {
+        const std::u8string name = nativePath.filename().u8string();
+        return SystemCodePage()
+            .FromUtf8({reinterpret_cast<const char*>(name.data()), name.size()})
+            .bytes;
+    } catch (const std::system_error&) {
+        return "?"; // half a pair of UTF-16
+    }
+}
+
 } // namespace tavmoor

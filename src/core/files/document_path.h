@@ -27,6 +27,9 @@ std::string DocumentPath(const std::filesystem::path& nativePath);
 /// As DocumentPath, but nothing for a path that the document cannot say.
 std::optional<std::string> FindDocumentPath(const std::filesystem::path& nativePath);
 
+/// The document form of a native path for a message; what it cannot say is replaced.
+std::string ShownPath(const std::filesystem::path& nativePath);
+
 /// True when two document paths are equal but for case, as the target file system compares them.
 bool SamePath(std::string_view a, std::string_view b);
 

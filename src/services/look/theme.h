@@ -24,6 +24,8 @@ inline constexpr QColor AccentDark{0x24, 0x57, 0x93};
 inline constexpr QColor AccentPale{0xE3, 0xEE, 0xFA};
 inline constexpr QColor Hover{0xEA, 0xEF, 0xF6};
 inline constexpr QColor Refused{0xC0, 0x2B, 0x2B};
+inline constexpr QColor RefusedName{0xFF, 0xFF, 0x00}; ///< back of an autorun name
+inline constexpr QColor AcceptedName{0xFF, 0xFF, 0xFF};
 inline constexpr QColor ChromeHover{0x3A, 0x4F, 0x70};
 
 inline constexpr int TitleHeight = 36;

@@ -3,8 +3,6 @@
 #include "core/files/build_folder.h"
 #include "core/files/document_path.h"
 #include "core/files/runtime_error.h"
-#include "core/text/path_text.h"
-#include "disc/output_check.h"
 #include "services/controls/labels.h"
 #include "services/controls/layouts.h"
 #include "services/controls/picture_button.h"
@@ -12,6 +10,7 @@
 #include "services/controls/text_boxes.h"
 #include "services/controls/value_label.h"
 #include "services/dialogs/message_box.h"
+#include "services/dialogs/shell_report.h"
 #include "services/look/theme.h"
 #include "services/values/qt_text.h"
 #include "services/windows/program_session.h"
@@ -52,10 +51,7 @@ public:
     explicit BuildTime(Form8& form) : form_(form) { Set(true); }
     BuildTime(const BuildTime&) = delete;
     BuildTime& operator=(const BuildTime&) = delete;
-    ~BuildTime() {
-        Set(false);
-        form_.build_->setEnabled(true);
-    }
+    ~BuildTime() { Set(false); }
 
 private:
     void Set(bool building) {
@@ -64,6 +60,8 @@ private:
         form_.name_->setFocus(); // else it goes from the disabled command to the next button
         form_.name_->setReadOnly(building);
         form_.start_->setEnabled(!building);
+        form_.build_->setEnabled(!building);
+        form_.open_->setEnabled(false);
     }
     Form8& form_;
 };
@@ -120,10 +118,16 @@ QLayout* Form8::MakeButtons() {
                           Body());
     auto* close =
         new PictureButton({"Command2", "", u"&Close", u"Back to the main window"}, Body());
+    open_ = new PictureButton({"OpenFolder", "browse", u"&Open folder",
+                               u"Opens the CD-ROM files folder with the finished autorun"},
+                              Body());
+    open_->setEnabled(false);
     connect(build_, &QAbstractButton::clicked, this, &Form8::Build);
+    connect(open_, &QAbstractButton::clicked, this, &Form8::OpenDiscFolder);
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
     SetKeyButtons(build_, close);
     auto* buttons = MakeRow();
+    buttons->addWidget(open_);
     buttons->addStretch(1);
     buttons->addWidget(build_);
     buttons->addWidget(close);
@@ -155,11 +159,8 @@ bool Form8::MayUnload() {
 BuildControls Form8::Controls() const {
     BuildControls controls;
     controls.window = build_->window();
-    controls.folder = folder_;
-    controls.name = name_;
     controls.status = status_;
     controls.progress = progress_;
-    controls.build = build_;
     return controls;
 }
 
@@ -172,52 +173,42 @@ void Form8::Build() {
     request.name = FromQString(name_->text());
     request.buildFolder = CompressFolder(Session().settings);
     request.startAfterBuild = start_->isChecked();
-    if (!BuildFolderIsUsable(request.buildFolder)) {
-        return;
-    }
     WindowBuildEvents events(Controls());
     events.ResetProgress();
-    BuildOutcome outcome = BuildOutcome::Built;
+    BuildOutcome outcome;
     {
         const BuildTime time(*this);
         outcome = BuildAutorun(Document(), request, events);
     }
-    if (outcome == BuildOutcome::Built) {
-        ShowFaults(events.Package());
-    } else if (outcome == BuildOutcome::FolderMissing) {
+    ShowOutcome(outcome);
+}
+
+void Form8::ShowOutcome(const BuildOutcome& outcome) {
+    MarkName(outcome);
+    open_->setEnabled(!outcome.placed.empty());
+    theme::MarkRefused(*folder_, outcome.end == BuildEnd::FolderMissing);
+    // A question that was answered with no needs no box on top.
+    if (!outcome.text.empty() && !outcome.declined) {
+        note_->SetText(outcome.isCritical ? ToQString(outcome.text) : QString());
+        ShowMessageBox(this, {ToQString(outcome.text), ToQString(outcome.title), BoxButtons::Ok,
+                              outcome.isCritical ? BoxIcon::Critical : BoxIcon::None});
+    }
+    if (outcome.end == BuildEnd::FolderMissing) {
         GoBackToFolder();
     }
 }
 
-/// Tells when the working files cannot be made where the settings say. In the disc folder itself
-/// the end of the build would clear away what the build has placed.
-bool Form8::BuildFolderIsUsable(const std::string& folder) {
-    QString objection;
-    if (SamePath(WithBackslash(folder), WithBackslash(Document().CdFolder()))) {
-        objection = QStringLiteral("It is the CD-ROM files folder itself.");
-    } else {
-        try {
-            RequireOwnFolder(folder);
-        } catch (const RuntimeError& error) {
-            objection = ToQString(error.what());
-        }
+void Form8::MarkName(const BuildOutcome& outcome) {
+    const bool refused = outcome.end == BuildEnd::NameRefused || outcome.end == BuildEnd::NameEmpty;
+    const QColor color = refused ? theme::RefusedName : theme::AcceptedName;
+    name_->setStyleSheet(QStringLiteral("background: ") + color.name());
+    if (outcome.end == BuildEnd::NameRefused) {
+        name_->setText(ToQString(outcome.suggestedName));
     }
-    if (objection.isEmpty()) {
-        return true;
-    }
-    ShowMessageBox(this, {QStringLiteral("The temporary compress folder cannot be used. Choose "
-                                         "another one in the program settings.\n") +
-                              objection,
-                          QStringLiteral("Error..."), BoxButtons::Ok, BoxIcon::Critical});
-    return false;
 }
 
-/// The build passes over what cannot be placed; a disc must not be burnt without it.
-void Form8::ShowFaults(const BuiltPackage& package) {
-    const auto faults = FaultsOfPlacedOutput(Document(), package);
-    if (!faults.empty()) {
-        note_->SetText(ToQString(faults.front()));
-    }
+void Form8::OpenDiscFolder() {
+    ReportFailure(this, SystemShell().OpenDocument(Document().CdFolder()));
 }
 
 void Form8::GoBackToFolder() {

@@ -35,9 +35,10 @@ private:
     QWidget* MakeProgress();
     QLayout* MakeButtons();
     [[nodiscard]] BuildControls Controls() const;
-    bool BuildFolderIsUsable(const std::string& folder);
-    void ShowFaults(const BuiltPackage& package);
+    void ShowOutcome(const BuildOutcome& outcome);
+    void MarkName(const BuildOutcome& outcome);
     void GoBackToFolder();
+    void OpenDiscFolder();
 
     ValueLabel* folder_ = nullptr;
     TextBox* name_ = nullptr;
@@ -46,6 +47,7 @@ private:
     StatusLabel* note_ = nullptr;
     QProgressBar* progress_ = nullptr;
     QAbstractButton* build_ = nullptr;
+    QAbstractButton* open_ = nullptr; ///< the disc's folder, once it is built
     bool building_ = false;
 };
 

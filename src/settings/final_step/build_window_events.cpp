@@ -3,14 +3,9 @@
 #include "services/controls/status_label.h"
 #include "services/dialogs/message_box.h"
 #include "services/dialogs/shell_report.h"
-#include "services/look/theme.h"
 #include "services/system/wait_loop.h"
-#include "services/values/color_value.h"
 #include "services/values/qt_text.h"
 
-#include <QAbstractButton>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
 
 namespace tavmoor {
@@ -42,27 +37,10 @@ void WindowBuildEvents::Status(std::string_view text) {
     controls_.status->SetText(ToQString(text));
 }
 
-void WindowBuildEvents::ShowMessage(std::string_view text, std::string_view title,
-                                    BuildMessageKind kind) {
-    ShowMessageBox(controls_.window,
-                   {ToQString(text), ToQString(title), BoxButtons::Ok,
-                    kind == BuildMessageKind::Critical ? BoxIcon::Critical : BoxIcon::None});
-}
-
-void WindowBuildEvents::ColorName(ColorValue color) {
-    controls_.name->setStyleSheet(QStringLiteral("background: ") + ToQColor(color).name());
-}
-
-void WindowBuildEvents::ReplaceName(std::string_view name) {
-    controls_.name->setText(ToQString(name));
-}
-
-void WindowBuildEvents::MarkFolder() {
-    theme::MarkRefused(*controls_.folder, true);
-}
-
-void WindowBuildEvents::EnableBuild(bool enabled) {
-    controls_.build->setEnabled(enabled);
+bool WindowBuildEvents::Ask(BuildQuestion /*question*/, std::string_view text) {
+    return ShowMessageBox(controls_.window,
+                          {ToQString(text), {}, BoxButtons::YesNo, BoxIcon::Question}) ==
+           BoxAnswer::Yes;
 }
 
 void WindowBuildEvents::ResetProgress() {
@@ -75,6 +53,10 @@ void WindowBuildEvents::PackageProgress(std::uint64_t done, std::uint64_t total)
     QProgressBar& bar = *controls_.progress;
     bar.setValue(total == 0 ? ProgressSteps : static_cast<int>(done * ProgressSteps / total));
     bar.setFormat(ProgressText(done, total));
+}
+
+void WindowBuildEvents::PlacingProgress(std::uint64_t done, std::uint64_t total) {
+    PackageProgress(done, total);
 }
 
 void WindowBuildEvents::LetEventsRun() {

@@ -2,9 +2,6 @@
 
 #include "disc/build_events.h"
 
-class QAbstractButton;
-class QLabel;
-class QLineEdit;
 class QProgressBar;
 class QWidget;
 
@@ -15,11 +12,8 @@ class StatusLabel;
 /// The controls in which the final step shows a build.
 struct BuildControls {
     QWidget* window = nullptr; ///< owner of the message boxes
-    QLabel* folder = nullptr;
-    QLineEdit* name = nullptr;
     StatusLabel* status = nullptr;
     QProgressBar* progress = nullptr;
-    QAbstractButton* build = nullptr;
 };
 
 /// Shows a build in the window of the final step, and does what it needs of its surroundings.
@@ -31,23 +25,15 @@ public:
     void ResetProgress();
 
     void Status(std::string_view text) override;
-    void ShowMessage(std::string_view text, std::string_view title, BuildMessageKind kind) override;
-    void ColorName(ColorValue color) override;
-    void ReplaceName(std::string_view name) override;
-    void MarkFolder() override;
-    void EnableBuild(bool enabled) override;
     void PackageProgress(std::uint64_t done, std::uint64_t total) override;
-    void PackageWritten(const BuiltPackage& package) override { package_ = package; }
+    void PlacingProgress(std::uint64_t done, std::uint64_t total) override;
+    bool Ask(BuildQuestion question, std::string_view text) override;
     void LetEventsRun() override;
     void Wait(std::chrono::milliseconds time) override;
     void StartAutorun(std::string_view path) override;
 
-    /// The package that was written; empty before that.
-    [[nodiscard]] const BuiltPackage& Package() const { return package_; }
-
 private:
     BuildControls controls_;
-    BuiltPackage package_;
 };
 
 } // namespace tavmoor
