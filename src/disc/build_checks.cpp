@@ -1,8 +1,8 @@
 #include "disc/build_checks.h"
 
+#include "core/disk/fresh_file.h"
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
-#include "core/files/fresh_file.h"
 #include "core/files/runtime_error.h"
 #include "core/text/maker.h"
 #include "core/text/path_text.h"

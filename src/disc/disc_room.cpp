@@ -1,7 +1,7 @@
 #include "disc/disc_room.h"
 
-#include "core/files/file_identity.h"
-#include "core/files/volume_traits.h"
+#include "core/disk/file_identity.h"
+#include "core/disk/volume_traits.h"
 
 namespace tavmoor {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/disk/file_identity.h"
 #include "core/document/project_document.h"
-#include "core/files/file_identity.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/files/fresh_file.h"
+#include "core/disk/fresh_file.h"
 #include "disc/build_events.h"
 #include "disc/disc_survey.h"
 #include "package/package_writer.h"

@@ -1,9 +1,9 @@
 #include "package/package_writer.h"
 
+#include "core/disk/sequential_output.h"
 #include "core/files/document_path.h"
 #include "core/files/file_store.h"
 #include "core/files/runtime_error.h"
-#include "core/files/sequential_output.h"
 #include "core/text/path_text.h"
 #include "package/name_scrambling.h"
 #include "package/package_format.h"

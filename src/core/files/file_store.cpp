@@ -1,8 +1,8 @@
 #include "core/files/file_store.h"
 
+#include "core/disk/durable_file.h"
+#include "core/disk/file_copy.h"
 #include "core/files/document_path.h"
-#include "core/files/durable_file.h"
-#include "core/files/file_copy.h"
 #include "core/files/runtime_error.h"
 #include "core/text/text_case.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/files/folder_lock.h"
+#include "core/disk/folder_lock.h"
 
 #include <filesystem>
 #include <memory>

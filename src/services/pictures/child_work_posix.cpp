@@ -1,6 +1,6 @@
 #include "services/pictures/child_work_posix.h"
 
-#include "core/files/native_file.h"
+#include "core/disk/native_file.h"
 
 #include <array>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "core/files/durable_file.h"
+#include "core/disk/durable_file.h"
 #include "core/files/program_folder.h"
 #include "services/system/registry_store_platform.h"
 #include "services/values/native_path_text.h"

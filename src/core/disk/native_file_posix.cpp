@@ -1,4 +1,4 @@
-#include "core/files/native_file.h"
+#include "core/disk/native_file.h"
 
 #include <cerrno>
 #include <unistd.h>

@@ -1,6 +1,6 @@
-#include "core/files/sequential_output.h"
+#include "core/disk/sequential_output.h"
 
-#include "core/files/sequential_output_platform.h"
+#include "core/disk/sequential_output_platform.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "core/files/volume_traits.h"
+#include "core/disk/volume_traits.h"
 
 #include <array>
 #include <string_view>

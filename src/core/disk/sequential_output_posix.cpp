@@ -1,4 +1,4 @@
-#include "core/files/sequential_output_platform.h"
+#include "core/disk/sequential_output_platform.h"
 
 #include <cerrno>
 #include <fcntl.h>

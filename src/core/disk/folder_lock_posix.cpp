@@ -1,4 +1,4 @@
-#include "core/files/folder_lock.h"
+#include "core/disk/folder_lock.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
-#include "core/files/durable_file.h"
+#include "core/disk/durable_file.h"
 
-#include "core/files/fresh_file.h"
+#include "core/disk/fresh_file.h"
 
 namespace tavmoor {
 

@@ -1,4 +1,4 @@
-#include "core/files/file_identity.h"
+#include "core/disk/file_identity.h"
 
 #include "core/text/text_case.h"
 

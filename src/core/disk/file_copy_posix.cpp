@@ -1,4 +1,4 @@
-#include "core/files/file_copy.h"
+#include "core/disk/file_copy.h"
 
 namespace tavmoor {
 

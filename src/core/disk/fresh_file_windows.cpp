@@ -1,6 +1,6 @@
-#include "core/files/fresh_file.h"
+#include "core/disk/fresh_file.h"
 
-#include "core/files/native_file.h"
+#include "core/disk/native_file.h"
 
 #include <aclapi.h>
 #include <algorithm>

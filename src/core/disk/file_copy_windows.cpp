@@ -1,6 +1,6 @@
-#include "core/files/file_copy.h"
+#include "core/disk/file_copy.h"
 
-#include "core/files/native_file.h"
+#include "core/disk/native_file.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/files/native_file.h"
-#include "core/files/sequential_output.h"
+#include "core/disk/native_file.h"
+#include "core/disk/sequential_output.h"
 
 namespace tavmoor {
 
