@@ -21,7 +21,7 @@ constexpr std::string_view NamePattern = ".tavmoor-XXXXXX";
 /// lock.
 bool IsStillThere(int file) {
     struct stat entry {};
-    return fstat(file, &entry) == 0 && entry.st_nlink > 0;
+    return fstat(file, &entry) != 0 || entry.st_nlink > 0;
 }
 
 bool IsFreshName(const std::string& name) {
